@@ -1,0 +1,49 @@
+#include "qvn/shared/Globale.h"
+
+#include "qvn/shared/failure.h"
+
+namespace qvn::Globale {
+
+namespace {
+
+struct Shared {
+  toolkit::Platform* platform = nullptr;
+  std::unique_ptr<toolkit::Connection> db;
+  std::shared_ptr<clsQVN_Eventi> eventi;
+};
+
+Shared& shared() {
+  static Shared instance;
+  return instance;
+}
+
+}  // namespace
+
+void install(toolkit::Platform& platform) {
+  unload();
+  shared().platform = &platform;
+}
+
+toolkit::Platform& platform() {
+  if (shared().platform == nullptr) throw Failure(FailureKind::InvalidCall, "the library is on no platform yet");
+  return *shared().platform;
+}
+
+toolkit::Connection& DB() {
+  auto& db = shared().db;
+  if (!db) db = std::make_unique<toolkit::Connection>(platform().drivers());
+  return *db;
+}
+
+std::shared_ptr<clsQVN_Eventi> Eventi() {
+  auto& eventi = shared().eventi;
+  if (!eventi) eventi = std::make_shared<clsQVN_Eventi>();
+  return eventi;
+}
+
+void unload() {
+  shared().eventi.reset();
+  shared().db.reset();
+}
+
+}  // namespace qvn::Globale

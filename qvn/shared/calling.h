@@ -1,0 +1,72 @@
+// Calling typed functions with variants, so that a session, a component host or a test can call by name.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <tuple>
+#include <type_traits>
+#include <utility>
+
+#include "qvn/shared/conversions.h"
+#include "qvn/shared/failure.h"
+#include "qvn/shared/variant.h"
+
+namespace qvn {
+
+/// A type as member tables name it.
+template <class T>
+constexpr std::string_view typeName() {
+  using Plain = std::remove_cvref_t<T>;
+  if constexpr (std::is_same_v<Plain, bool>) return "boolean";
+  if constexpr (std::is_same_v<Plain, std::uint8_t>) return "8-bit unsigned integer";
+  if constexpr (std::is_same_v<Plain, std::int16_t>) return "16-bit integer";
+  if constexpr (std::is_same_v<Plain, std::int32_t>) return "32-bit integer";
+  if constexpr (std::is_same_v<Plain, double>) return "double";
+  if constexpr (std::is_same_v<Plain, Currency>) return "currency";
+  if constexpr (std::is_same_v<Plain, Decimal>) return "decimal";
+  if constexpr (std::is_same_v<Plain, Variant>) return "variant";
+  if constexpr (std::is_same_v<Plain, CurrencyArray>) return "array of currency";
+  if constexpr (std::is_same_v<Plain, std::string> || std::is_same_v<Plain, std::string_view>) return "text";
+  return {};
+}
+
+/// What a variant is converted to before it is handed to a parameter of type T.
+template <class T>
+using Held =
+    std::conditional_t<std::is_same_v<std::remove_cvref_t<T>, std::string_view>, std::string, std::remove_cvref_t<T>>;
+
+/// Calls a function with as many variants as it has parameters, each converted to its parameter's type. Parameters that
+/// are mutable references come back into the variants, whether the call succeeds or fails half-way. Fails with
+/// "invalid call" on another count of arguments and as as<>() does on one that does not convert.
+template <class Result, class... Parameters, class Function>
+Variant callWith(std::span<Variant> args, const Locale& locale, Function&& function) {
+  if (args.size() != sizeof...(Parameters)) {
+    throw Failure(FailureKind::InvalidCall, "takes " + std::to_string(sizeof...(Parameters)) + " arguments, given " +
+                                                std::to_string(args.size()));
+  }
+  return [&]<std::size_t... I>(std::index_sequence<I...>)->Variant {
+    std::tuple<Held<Parameters>...> held{as<Held<Parameters>>(args[I], locale)...};
+    struct GiveBack {
+      std::span<Variant> args;
+      std::tuple<Held<Parameters>...>& held;
+      ~GiveBack() {
+        [[maybe_unused]] auto one = [&]<std::size_t J, class Parameter>() {
+          if constexpr (std::is_lvalue_reference_v<Parameter> && !std::is_const_v<std::remove_reference_t<Parameter>>)
+            args[J] = std::get<J>(held);
+        };
+        (one.template operator()<I, Parameters>(), ...);
+      }
+    } giveBack{args, held};
+    if constexpr (std::is_void_v<Result>) {
+      std::forward<Function>(function)(static_cast<Parameters>(std::get<I>(held))...);
+      return Empty{};
+    } else {
+      return Variant(std::forward<Function>(function)(static_cast<Parameters>(std::get<I>(held))...));
+    }
+  }
+  (std::index_sequence_for<Parameters...>{});
+}
+
+}  // namespace qvn

@@ -1,0 +1,38 @@
+// What goes wrong, as one exception type with a kind and a message.
+#pragma once
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+namespace qvn {
+
+enum class FailureKind {
+  TypeMismatch,
+  Overflow,
+  DivisionByZero,
+  SubscriptOutOfRange,
+  InvalidUseOfNull,
+  InvalidCall,
+  NoSuchMember,
+  Database,
+};
+
+/// The kind in words, as messages and session answers name it: "type mismatch", "overflow", …
+std::string_view nameOf(FailureKind kind);
+
+/// The one failure of the library. Its message names the widget or member and the offending text.
+class Failure : public std::runtime_error {
+ public:
+  Failure(FailureKind kind, const std::string& message) : std::runtime_error(message), kind_(kind) {}
+
+  FailureKind kind() const { return kind_; }
+
+  /// The same failure with its place put in front: "TxtCodice: the text "" is no number".
+  Failure within(std::string_view place) const;
+
+ private:
+  FailureKind kind_;
+};
+
+}  // namespace qvn

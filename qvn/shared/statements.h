@@ -1,0 +1,53 @@
+// The statements of the library, as constants that keys are set between: a text key stands between the quotes that its
+// constants end and begin with, a number key stands bare. Every statement reads.
+#pragma once
+
+#include <span>
+#include <string_view>
+
+namespace qvn::statements {
+
+inline constexpr std::string_view kQuote = "'";
+
+// Single look-ups.
+inline constexpr std::string_view kTIPO_SK = "Select TIPO_SK FROM RAMI Where COD_RAMO = '";
+inline constexpr std::string_view kR_ACC = "Select R_ACC From PRODUTTORI Where COD_PROD = '";
+inline constexpr std::string_view kPRODUTTORE = "Select DENOMINAZIONE, PERCALT From PRODUTTORI Where COD_PROD = '";
+inline constexpr std::string_view kCOMPAGNIA = "Select DESC_COMPAGNIA From COMPAGNIE Where COD_COMP = '";
+inline constexpr std::string_view kCOMP_DEL = "Select COD_COMP From QUOTE_POLIZZE Where PROT = ";
+inline constexpr std::string_view kCOMP_DEL_SIN = "Select COD_COMP From QUOTE_SINISTRI Where N_SINISTRO = '";
+inline constexpr std::string_view kPROD_DEL = "Select COD_PROD From QUOTE_POLIZZE Where PROT = ";
+inline constexpr std::string_view kLead = " AND DELEGATARIA <> 0";
+inline constexpr std::string_view kQuoteLead = "' AND DELEGATARIA <> 0";
+inline constexpr std::string_view kPROD_DEL_SOSPESO =
+    "Select COD_PROD FROM SOSPESI Where COD_COMP = COD_COMP_DEL AND PROT = ";
+inline constexpr std::string_view kAndPROG = " AND PROG = ";
+inline constexpr std::string_view kIVA = "Select * From TIPI_IVA Where COD_IVA = ";
+inline constexpr std::string_view kDESC_MASTRO = "Select DESCRIZIONE From MASTRI Where MASTRO = '";
+inline constexpr std::string_view kDESC_CONTO = "Select DESCRIZIONE From CONTI Where MASTRO = '";
+inline constexpr std::string_view kQuoteAndCONTO = "' AND CONTO = '";
+inline constexpr std::string_view kSIGLA = "Select sigla From SOTTORAMI Where COD_SRAMO = ";
+
+// The exposure of a client towards a company, in the order of its pieces.
+inline constexpr std::string_view kESPOSIZIONE =
+    "SELECT POLIZZE.COD_CLIENTE, QUOTE_POLIZZE.COD_COMP, Sum([CAUZIONE]*[QUOTA]/1000) AS ESP "
+    "FROM (DATI_POLIZZE_4 INNER JOIN QUOTE_POLIZZE ON DATI_POLIZZE_4.PROT = QUOTE_POLIZZE.PROT) "
+    "INNER JOIN POLIZZE ON QUOTE_POLIZZE.PROT = POLIZZE.PROT "
+    "WHERE (((POLIZZE.STATO) Is Null Or (POLIZZE.STATO)='')) "
+    "GROUP BY POLIZZE.COD_CLIENTE, QUOTE_POLIZZE.COD_COMP "
+    "HAVING (((POLIZZE.COD_CLIENTE)='";
+inline constexpr std::string_view kESPOSIZIONE_COMP = "') AND ((QUOTE_POLIZZE.COD_COMP)='";
+inline constexpr std::string_view kESPOSIZIONE_END = "'))";
+
+/// A group of statements that no panel issues yet. Those that end in a quote or a blank take a key behind them.
+struct Reserve {
+  std::string_view title;  ///< of the pick list, empty where there is none
+  std::span<const std::string_view> texts;
+  std::string_view fieldName = {};  ///< under which the code is read, where it is not spelled as in the statement
+  std::string_view heading = {};    ///< of the code's column, where the group names one
+};
+
+/// The reserve statements, one group after the other.
+std::span<const Reserve> reserve();
+
+}  // namespace qvn::statements

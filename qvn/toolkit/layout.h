@@ -1,0 +1,77 @@
+// What a panel looks like, as one row of data a widget. Rows stand in tab order and live as long as the program.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+namespace qvn::toolkit {
+
+enum class WidgetKind : std::uint8_t {
+  TextBox,
+  Label,
+  ComboBox,
+  CheckBox,
+  Frame,
+  CommandButton,
+  DateControl,
+  ListView,
+  DataGrid,
+  DataControl,
+};
+
+/// Position and size in twips, relative to the surrounding frame.
+struct Place {
+  std::int32_t left = 0;
+  std::int32_t top = 0;
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+
+  friend bool operator==(const Place&, const Place&) = default;
+};
+
+enum class Align : std::uint8_t { Left, Right, Center };
+
+inline constexpr std::uint32_t kBlack = 0x000000;
+inline constexpr std::uint32_t kWhite = 0xFFFFFF;
+inline constexpr std::uint32_t kFaceGray = 0xC0C0C0;  ///< the back of frames, labels and buttons
+inline constexpr std::uint32_t kBlue = 0xFF0000;      // red is the low byte
+inline constexpr std::uint32_t kRed = 0x0000FF;
+
+struct WidgetLayout {
+  std::string_view name;
+  WidgetKind kind = WidgetKind::TextBox;
+  std::int16_t tabIndex = 0;
+  std::string_view frame = {};  ///< the name of the frame it lies in, a row above this one; empty for none
+  Place place = {};
+  std::string_view caption = {};  ///< caption, or the text that a field starts with
+  Align align = Align::Left;
+  bool enabled = true;
+  bool visible = true;
+  bool bordered = false;  ///< a label with a border around it
+  bool bold = false;
+  std::uint32_t fore = kBlack;
+  std::string_view tooltip = {};
+  std::span<const std::string_view> items = {};  ///< the items of a closed list
+  bool defaultButton = false;                    ///< pressed by Enter anywhere on its form
+  bool cancelButton = false;                     ///< pressed by Escape anywhere on its form
+};
+
+/// A form as it is laid out: its caption, its inner size in twips and its widgets.
+struct FormLayout {
+  std::string_view name;
+  std::string_view caption = {};
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  std::span<const WidgetLayout> widgets = {};
+};
+
+/// A panel as it is laid out: its size in twips and its widgets.
+struct PanelLayout {
+  std::string_view name;  ///< the panel's class
+  std::int32_t width = 0;
+  std::int32_t height = 0;
+  std::span<const WidgetLayout> widgets = {};
+};
+
+}  // namespace qvn::toolkit

@@ -1,0 +1,44 @@
+// The rows of a pick list.
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+
+#include "qvn/toolkit/widget.h"
+
+namespace qvn::toolkit {
+
+/// Rows in columns, kept in the order of a sort column and direction as text without regard to case; rows that compare
+/// equal stay in the order they came.
+class ListView : public Widget {
+ public:
+  virtual void clearColumns() = 0;
+  /// Width in twips.
+  virtual void addColumn(std::string_view caption, std::int32_t width) = 0;
+  virtual std::int32_t columnCount() const = 0;
+
+  virtual void clearRows() = 0;
+  /// Adds a row with one text a column: the row's text, then its sub-items.
+  virtual void addRow(std::span<const std::string_view> texts) = 0;
+  virtual std::int32_t rowCount() const = 0;
+  /// A text by row in the order shown, and column, both from 0. "subscript out of range" outside.
+  virtual std::string text(std::int32_t row, std::int32_t column) const = 0;
+
+  /// The selected row in the order shown, -1 for none.
+  virtual std::int32_t selected() const = 0;
+  virtual void select(std::int32_t row) = 0;
+
+  virtual std::int16_t SortKey() const = 0;  ///< column from 0
+  virtual void SortKey(std::int16_t column) = 0;
+  virtual std::int16_t SortOrder() const = 0;  ///< 0 ascending, 1 descending
+  virtual void SortOrder(std::int16_t order) = 0;
+
+  std::function<void(std::int16_t column)> ColumnClick;  ///< column from 1
+  std::function<void()> DblClick;
+  std::function<void(std::int16_t& KeyAscii)> KeyPress;
+};
+
+}  // namespace qvn::toolkit

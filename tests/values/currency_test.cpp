@@ -1,0 +1,83 @@
+#include "qvn/shared/currency.h"
+
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+
+#include "tests/failure_matchers.h"
+
+namespace qvn {
+namespace {
+
+constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
+constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
+
+constexpr Currency amount(std::int64_t tenThousandths) { return Currency::fromTenThousandths(tenThousandths); }
+
+TEST(Currency, CountsTenThousandths) {
+  EXPECT_EQ(Currency().tenThousandths(), 0);
+  EXPECT_EQ(Currency::of(3).tenThousandths(), 30'000);
+  EXPECT_EQ(Currency::of(-3).tenThousandths(), -30'000);
+  EXPECT_EQ(amount(1).tenThousandths(), 1);
+}
+
+TEST(Currency, WholeAmountsReachToTheEndOfTheRange) {
+  EXPECT_EQ(Currency::of(922'337'203'685'477).tenThousandths(), 9'223'372'036'854'770'000);
+  EXPECT_EQ(Currency::of(-922'337'203'685'477).tenThousandths(), -9'223'372'036'854'770'000);
+  EXPECT_FAILURE(Currency::of(922'337'203'685'478), FailureKind::Overflow, "922337203685478");
+  EXPECT_FAILURE(Currency::of(-922'337'203'685'478), FailureKind::Overflow, "-922337203685478");
+  EXPECT_FAILURE(Currency::of(kLeast), FailureKind::Overflow, "-9223372036854775808");
+}
+
+TEST(Currency, SumsAreExactUpToTheEndOfTheRange) {
+  EXPECT_EQ(amount(kMost - 1) + amount(1), amount(kMost));
+  EXPECT_EQ(amount(kLeast + 1) - amount(1), amount(kLeast));
+  EXPECT_EQ(amount(kLeast) + amount(kMost), amount(-1));
+  EXPECT_EQ(amount(-1) - amount(kMost), amount(kLeast));
+  EXPECT_EQ(amount(-1) - amount(kLeast), amount(kMost));
+  EXPECT_EQ(-amount(kMost), amount(-kMost));
+}
+
+TEST(Currency, SumsThatDoNotFitFail) {
+  EXPECT_FAILURE(amount(kMost) + amount(1), FailureKind::Overflow, "9223372036854775807 + 1");
+  EXPECT_FAILURE(amount(kLeast) + amount(-1), FailureKind::Overflow, "-9223372036854775808 + -1");
+  EXPECT_FAILURE(amount(kLeast) - amount(1), FailureKind::Overflow, "-9223372036854775808 - 1");
+  EXPECT_FAILURE(amount(kMost) - amount(-1), FailureKind::Overflow, "9223372036854775807 - -1");
+  EXPECT_FAILURE(amount(0) - amount(kLeast), FailureKind::Overflow, "0 - -9223372036854775808");
+  EXPECT_FAILURE(-amount(kLeast), FailureKind::Overflow, "-9223372036854775808");
+}
+
+TEST(Currency, AFailedSumLeavesTheAmountAlone) {
+  Currency sum = amount(kMost);
+  EXPECT_FAILURE(sum += amount(1), FailureKind::Overflow, "does not fit");
+  EXPECT_EQ(sum, amount(kMost));
+  sum -= amount(kMost);
+  EXPECT_EQ(sum, Currency());
+}
+
+TEST(Currency, RandomSumsAgreeWithWiderArithmetic) {
+  std::mt19937_64 random(20'261'115);
+  int overflows = 0;
+  for (int i = 0; i < 20'000; ++i) {
+    const auto a = static_cast<std::int64_t>(random());
+    const auto b = static_cast<std::int64_t>(random());
+    // The halves cannot overflow, and tell on which side of the range the sum lies.
+    const std::int64_t half = a / 2 + b / 2 + (a % 2 + b % 2) / 2;
+    if (half > kMost / 2 || half < kLeast / 2) {
+      ++overflows;
+      EXPECT_FAILURE(amount(a) + amount(b), FailureKind::Overflow, "does not fit");
+    } else if (half < kMost / 2 && half > kLeast / 2) {
+      EXPECT_EQ((amount(a) + amount(b)) - amount(b), amount(a));
+    }
+  }
+  EXPECT_GT(overflows, 1'000);
+}
+
+TEST(Currency, IsOrderedByValue) {
+  EXPECT_LT(amount(kLeast), amount(0));
+  EXPECT_LT(amount(0), amount(kMost));
+  EXPECT_EQ(amount(5) <=> amount(5), std::strong_ordering::equal);
+}
+
+}  // namespace
+}  // namespace qvn
