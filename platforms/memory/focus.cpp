@@ -1,0 +1,112 @@
+#include "platforms/memory/focus.h"
+
+#include <exception>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "platforms/memory/surface.h"
+#include "platforms/memory/usable.h"
+#include "qvn/shared/failure.h"
+
+namespace qvn::memory {
+
+namespace {
+
+struct FocusHandlers {
+  const std::function<void()>* got = nullptr;
+  const std::function<void()>* lost = nullptr;
+};
+
+FocusHandlers handlersOf(const toolkit::Widget& widget) {
+  switch (widget.Kind()) {
+    case toolkit::WidgetKind::TextBox:
+    case toolkit::WidgetKind::DateControl: {
+      const auto& field = static_cast<const toolkit::EditableText&>(widget);
+      return {.got = &field.GotFocus, .lost = &field.LostFocus};
+    }
+    case toolkit::WidgetKind::ComboBox: {
+      const auto& list = static_cast<const toolkit::ComboBox&>(widget);
+      return {.got = &list.GotFocus, .lost = &list.LostFocus};
+    }
+    default:
+      return {};
+  }
+}
+
+Surface& surfaceOf(const toolkit::Widget& widget) { return static_cast<Surface&>(widget.owner()); }
+
+void refuseUnusable(const toolkit::Widget& widget) {
+  const std::string_view why =
+      takesFocus(widget.Kind()) ? obstacle(widget) : std::string_view("widgets of its kind never do");
+  if (why.empty()) return;
+  throw Failure(FailureKind::InvalidCall, fullName(widget).append(" cannot take the focus: ").append(why));
+}
+
+}  // namespace
+
+template <class OnFailure>
+void Focus::move(toolkit::Widget* to, OnFailure onFailure) {
+  const Turn turn(turns_);
+  const auto raise = [&](toolkit::Widget& widget, const std::function<void()>* handler, std::string_view event) {
+    if (handler == nullptr) return;
+    try {
+      surfaceOf(widget).raise(*handler);
+    } catch (const Failure& failure) {
+      onFailure(widget, event, failure);
+    }
+  };
+  holder_ = to;
+  if (told_ != nullptr && told_ != to) {
+    toolkit::Widget& from = *std::exchange(told_, nullptr);
+    if (watcher_ != nullptr) watcher_->lostFocus(from);
+    raise(from, handlersOf(from).lost, "LostFocus");
+  }
+  if (to != nullptr && holder_ == to && told_ != to) {
+    told_ = to;
+    if (watcher_ != nullptr) watcher_->gotFocus(*to);
+    raise(*to, handlersOf(*to).got, "GotFocus");
+  }
+}
+
+void Focus::moveByProgram(toolkit::Widget* to) {
+  std::exception_ptr first;
+  move(to, [&](toolkit::Widget&, std::string_view, const Failure&) {
+    if (!first) first = std::current_exception();
+  });
+  if (first) std::rethrow_exception(first);
+}
+
+void Focus::moveByHand(toolkit::Widget* to) {
+  move(to, [](toolkit::Widget& widget, std::string_view event, const Failure& failure) {
+    surfaceOf(widget).report(widget, event, failure);
+  });
+}
+
+void Focus::give(toolkit::Widget& widget) {
+  refuseUnusable(widget);
+  if (holder_ != &widget) moveByProgram(&widget);
+}
+
+void Focus::check() {
+  if (holder_ != nullptr && !canHoldFocus(*holder_)) moveByProgram(nullptr);
+}
+
+void Focus::giveByHand(toolkit::Widget& widget) {
+  refuseUnusable(widget);
+  if (holder_ != &widget) moveByHand(&widget);
+}
+
+void Focus::leaveByHand() {
+  if (holder_ != nullptr) moveByHand(nullptr);
+}
+
+void Focus::forget(const Surface& surface) noexcept {
+  const auto liesOnIt = [&](const toolkit::Widget* widget) {
+    return widget != nullptr && &widget->owner() == static_cast<const toolkit::Surface*>(&surface);
+  };
+  if (liesOnIt(holder_)) holder_ = nullptr;
+  if (liesOnIt(told_)) told_ = nullptr;
+}
+
+}  // namespace qvn::memory

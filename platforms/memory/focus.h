@@ -1,0 +1,47 @@
+// Who has the focus among all panels of a platform.
+#pragma once
+
+#include "platforms/memory/turns.h"
+#include "platforms/operator.h"
+#include "qvn/toolkit/widget.h"
+
+namespace qvn::memory {
+
+class Surface;
+
+/// Moves the focus and raises its events. They come in pairs, whatever handlers do in between: a widget that was told
+/// of its GotFocus is told of its LostFocus once, before any other is told of its own; where a handler moves the focus
+/// on, the move that it interrupted tells nothing more.
+class Focus {
+ public:
+  explicit Focus(Turns& turns) : turns_(turns) {}
+
+  toolkit::Widget* holder() const { return holder_; }
+  void watch(Watcher* watcher) { watcher_ = watcher; }
+
+  /// Gives the widget the focus. "invalid call", naming it, if it cannot hold it. Where handlers fail, the first
+  /// failure passes on when both have run.
+  void give(toolkit::Widget& widget);
+  /// Takes the focus from its holder if that can no longer hold it. A failure of its LostFocus passes on.
+  void check();
+
+  /// The same by the operator's hand: failures of handlers go to the containers of their panels.
+  void giveByHand(toolkit::Widget& widget);
+  void leaveByHand();
+
+  /// Drops what lies on a surface that is going, and raises nothing.
+  void forget(const Surface& surface) noexcept;
+
+ private:
+  template <class OnFailure>
+  void move(toolkit::Widget* to, OnFailure onFailure);
+  void moveByProgram(toolkit::Widget* to);
+  void moveByHand(toolkit::Widget* to);
+
+  Turns& turns_;
+  Watcher* watcher_ = nullptr;
+  toolkit::Widget* holder_ = nullptr;
+  toolkit::Widget* told_ = nullptr;  // has had its GotFocus and not yet its LostFocus
+};
+
+}  // namespace qvn::memory

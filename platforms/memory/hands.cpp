@@ -1,0 +1,226 @@
+#include "platforms/memory/hands.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+#include <vector>
+
+#include "platforms/memory/combo_box.h"
+#include "platforms/memory/date_control.h"
+#include "platforms/memory/platform.h"
+#include "platforms/memory/text_box.h"
+#include "platforms/memory/usable.h"
+#include "platforms/memory/utf8.h"
+#include "qvn/shared/failure.h"
+
+namespace qvn::memory {
+
+namespace {
+
+constexpr char32_t kBackspace = 8;
+/// The key code of a character whose own does not fit; left unchanged, the character itself is typed.
+constexpr std::int16_t kBeyondKeyCodes = std::numeric_limits<std::int16_t>::max();
+
+std::int16_t keyCodeOf(char32_t character) {
+  return character < kBeyondKeyCodes ? static_cast<std::int16_t>(character) : kBeyondKeyCodes;
+}
+
+bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
+
+Surface& surfaceOf(const toolkit::Widget& widget) { return static_cast<Surface&>(widget.owner()); }
+
+bool isField(const toolkit::Widget& widget) {
+  return widget.Kind() == toolkit::WidgetKind::TextBox || widget.Kind() == toolkit::WidgetKind::DateControl;
+}
+
+TextBuffer& bufferOf(toolkit::EditableText& field) {
+  if (field.Kind() == toolkit::WidgetKind::TextBox) return static_cast<TextBox&>(field).buffer();
+  return static_cast<DateControl&>(field).buffer();
+}
+
+/// Does what the operator's hand started; a failure goes to the container as that of the event.
+template <class Act>
+void byHand(toolkit::Widget& widget, std::string_view event, Act act) {
+  try {
+    act();
+  } catch (const Failure& failure) {
+    surfaceOf(widget).report(widget, event, failure);
+  }
+}
+
+}  // namespace
+
+void Hands::own(const toolkit::Widget& widget) const {
+  if (&widget.owner().platform() == &platform_) return;
+  throw Failure(FailureKind::InvalidCall, fullName(widget).append(" is a widget of another platform"));
+}
+
+toolkit::Widget& Hands::held() const {
+  if (toolkit::Widget* holder = platform_.focused()) return *holder;
+  throw Failure(FailureKind::InvalidCall, "nothing has the focus");
+}
+
+toolkit::EditableText& Hands::heldField() const {
+  toolkit::Widget& holder = held();
+  if (isField(holder)) return static_cast<toolkit::EditableText&>(holder);
+  throw Failure(FailureKind::InvalidCall, fullName(holder).append(" has the focus and is no field with a text"));
+}
+
+void Hands::focus(toolkit::Widget& widget) {
+  own(widget);
+  platform_.focus().giveByHand(widget);
+}
+
+void Hands::leave() { platform_.focus().leaveByHand(); }
+
+void Hands::type(std::string_view keys) {
+  held();
+  KeyReader reader(keys);
+  while (const std::optional<Key> key = reader.next()) {
+    const Turn turn(platform_.turns());
+    press(held(), *key);
+  }
+}
+
+void Hands::caret(std::int32_t start, std::int32_t length) { bufferOf(heldField()).select(start, length); }
+
+void Hands::paste(std::string_view text) {
+  toolkit::EditableText& field = heldField();
+  const Turn turn(platform_.turns());
+  while (!text.empty() && platform_.focused() == &field) {
+    if (!typeInto(field, utf8::takeFirst(text))) return;
+  }
+}
+
+void Hands::press(toolkit::Widget& widget, Key key) {
+  if (key.name == KeyName::Tab || key.name == KeyName::ShiftTab) return tab(widget, key.name == KeyName::ShiftTab);
+  if (isField(widget)) return pressInField(static_cast<toolkit::EditableText&>(widget), key);
+  if (widget.Kind() == toolkit::WidgetKind::ComboBox) return pressInList(static_cast<ComboBox&>(widget), key);
+  const bool space = key.character == U' ';
+  const bool enterOnButton = key.name == KeyName::Enter && widget.Kind() == toolkit::WidgetKind::CommandButton;
+  if (space || enterOnButton) push(widget);
+}
+
+void Hands::pressInField(toolkit::EditableText& field, Key key) {
+  TextBuffer& buffer = bufferOf(field);
+  switch (key.name) {
+    case KeyName::Left:
+      return buffer.left();
+    case KeyName::Right:
+      return buffer.right();
+    case KeyName::Home:
+      return buffer.home();
+    case KeyName::End:
+      return buffer.end();
+    case KeyName::Delete:
+      if (field.Kind() == toolkit::WidgetKind::TextBox && buffer.erase()) {
+        byHand(field, "Change", [&] { surfaceOf(field).raise(field.Change); });
+      }
+      return;
+    default:
+      if (key.character != 0) typeInto(field, key.character);
+  }
+}
+
+bool Hands::typeInto(toolkit::EditableText& field, char32_t character) {
+  const std::int16_t given = keyCodeOf(character);
+  std::int16_t code = given;
+  byHand(field, "KeyPress", [&] { surfaceOf(field).raise(field.KeyPress, code); });
+  if (code == 0 || !obstacle(field).empty()) return false;
+  if (code != given) character = code > 0 ? static_cast<char32_t>(code) : 0;
+  if (field.Kind() == toolkit::WidgetKind::TextBox) take(static_cast<TextBox&>(field), character);
+  return true;
+}
+
+void Hands::take(TextBox& box, char32_t character) {
+  if (character == kBackspace) {
+    if (!box.buffer().backspace()) return;
+  } else if (isControl(character)) {
+    return;
+  } else {
+    box.buffer().insert(character);
+  }
+  byHand(box, "Change", [&] { surfaceOf(box).raise(box.Change); });
+}
+
+void Hands::pressInList(ComboBox& list, Key key) {
+  const std::int32_t current = list.ListIndex();
+  const std::int32_t last = list.ListCount() - 1;
+  std::int32_t wanted = current;
+  switch (key.name) {
+    case KeyName::Up:
+      wanted = current > 0 ? current - 1 : current;
+      break;
+    case KeyName::Down:
+      wanted = std::min(current + 1, last);
+      break;
+    case KeyName::Home:
+      wanted = std::min(0, last);
+      break;
+    case KeyName::End:
+      wanted = last;
+      break;
+    case KeyName::Character:
+      wanted = list.nextBeginningWith(key.character);
+      break;
+    default:
+      break;
+  }
+  if (wanted >= 0 && wanted != current) pick(list, wanted);
+}
+
+void Hands::tab(toolkit::Widget& from, bool backwards) {
+  std::vector<toolkit::Widget*> stops;
+  for (toolkit::Widget* widget : from.owner().widgets()) {
+    if (widget == &from || canHoldFocus(*widget)) stops.push_back(widget);
+  }
+  std::ranges::stable_sort(stops, {}, &toolkit::Widget::TabIndex);
+  if (backwards) std::ranges::reverse(stops);
+  const auto here = std::ranges::find(stops, &from);
+  toolkit::Widget& next = here + 1 == stops.end() ? *stops.front() : **(here + 1);
+  platform_.focus().giveByHand(next);
+}
+
+void Hands::pick(ComboBox& list, std::int32_t index) {
+  byHand(list, "Click", [&] { list.ListIndex(index); });
+}
+
+void Hands::push(toolkit::Widget& widget) {
+  byHand(widget, "Click", [&] {
+    if (widget.Kind() == toolkit::WidgetKind::CheckBox) {
+      auto& box = static_cast<toolkit::CheckBox&>(widget);
+      box.Value(box.Value() == 0 ? 1 : 0);
+    } else {
+      surfaceOf(widget).raise(static_cast<toolkit::CommandButton&>(widget).Click);
+    }
+  });
+}
+
+void Hands::click(toolkit::Widget& widget) {
+  own(widget);
+  if (widget.Kind() != toolkit::WidgetKind::CheckBox && widget.Kind() != toolkit::WidgetKind::CommandButton) {
+    throw Failure(FailureKind::InvalidCall, fullName(widget).append(" is neither a button nor a check box"));
+  }
+  if (!obstacle(widget).empty()) return;
+  const Turn turn(platform_.turns());
+  platform_.focus().giveByHand(widget);
+  if (widget.hasFocus()) push(widget);
+}
+
+void Hands::choose(toolkit::ComboBox& list, std::int32_t index) {
+  own(list);
+  auto& box = static_cast<ComboBox&>(list);
+  if (index < 0 || index >= box.ListCount()) {
+    throw Failure(FailureKind::InvalidCall, fullName(list).append(" has no item at ").append(std::to_string(index)));
+  }
+  const Turn turn(platform_.turns());
+  platform_.focus().giveByHand(list);
+  if (list.hasFocus() && index < box.ListCount()) pick(box, index);
+}
+
+void Hands::choose(toolkit::ComboBox& list, std::string_view item) {
+  own(list);
+  choose(list, static_cast<ComboBox&>(list).indexOf(item));
+}
+
+}  // namespace qvn::memory

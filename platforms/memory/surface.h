@@ -1,0 +1,84 @@
+// A panel's surface in memory.
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <new>
+#include <span>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "platforms/memory/turns.h"
+#include "qvn/toolkit/container.h"
+#include "qvn/toolkit/surface.h"
+
+namespace qvn::memory {
+
+class Platform;
+
+/// The widgets of one panel, made in one piece of memory.
+class Surface final : public toolkit::Surface {
+ public:
+  Surface(Platform& platform, const toolkit::PanelLayout& layout, toolkit::Container& container, std::string name);
+  ~Surface() override;
+  /// Dropping a surface takes the focus from its widgets and raises nothing; inside a handler its memory stays until
+  /// the outermost handler has returned.
+  void operator delete(Surface* surface, std::destroying_delete_t);
+
+  /// Makes the widgets of the layout, once. "invalid call", naming the widget, on a kind that the platform does not
+  /// have, a frame that no row above has made, or a starting text that the widget cannot show.
+  void makeWidgets();
+
+  toolkit::Platform& platform() const override;
+  toolkit::Container& container() const override { return container_; }
+  const toolkit::PanelLayout& layout() const override { return layout_; }
+  std::string_view name() const override { return name_; }
+  std::span<toolkit::Widget* const> widgets() const override { return widgets_; }
+  bool Visible() const override { return visible_; }
+  void Visible(bool visible) override;
+  bool Enabled() const override { return enabled_; }
+  void Enabled(bool enabled) override;
+
+  /// Whether the surface was dropped and stands only until the handlers in progress have returned.
+  bool gone() const { return gone_; }
+
+  /// Runs a widget's handler, if it is set and the surface is not gone.
+  template <class... Args>
+  void raise(const std::function<void(Args...)>& handler, std::type_identity_t<Args>... args) {
+    if (!handler || gone_) return;
+    const Turn turn(turns());
+    handler(std::forward<Args>(args)...);
+  }
+
+  /// Hands a failure that the operator's hand has caused to the container, unless the surface is gone.
+  void report(toolkit::Widget& widget, std::string_view event, const Failure& failure) noexcept;
+
+  /// SetFocus of one of the widgets.
+  void giveFocus(toolkit::Widget& widget);
+  /// Takes the focus from its holder if that can no longer hold it, after a flag of this surface has changed.
+  void checkFocus();
+
+ private:
+  friend class Turns;
+
+  Turns& turns() const;
+  toolkit::Frame* frameNamed(const toolkit::WidgetLayout& row) const;
+  void destroy() noexcept;
+
+  Platform& platform_;
+  const toolkit::PanelLayout& layout_;
+  toolkit::Container& container_;
+  std::string name_;
+  std::unique_ptr<std::byte[]> memory_;
+  std::vector<toolkit::Widget*> widgets_;  // made in memory_, in the order of the layout
+  Surface* droppedBefore_ = nullptr;
+  bool visible_ = true;
+  bool enabled_ = true;
+  bool gone_ = false;
+};
+
+}  // namespace qvn::memory

@@ -1,0 +1,73 @@
+// What all widgets in memory have in common.
+#pragma once
+
+#include <cstdint>
+
+#include "platforms/memory/surface.h"
+#include "qvn/toolkit/platform.h"
+#include "qvn/toolkit/widget.h"
+
+namespace qvn::memory {
+
+/// What a widget is made from. All of it outlives the widget.
+struct Making {
+  const toolkit::WidgetLayout& layout;
+  Surface& surface;
+  toolkit::Frame* frame;
+};
+
+/// The part of every widget's interface that does not depend on its kind.
+template <class Interface>
+class Common : public Interface {
+ public:
+  const toolkit::WidgetLayout& layout() const final { return layout_; }
+  toolkit::Surface& owner() const final { return surface_; }
+  toolkit::Frame* frame() const final { return frame_; }
+
+  toolkit::Place place() const final { return place_; }
+  void place(toolkit::Place place) final { place_ = place; }
+
+  bool Enabled() const final { return enabled_; }
+  void Enabled(bool enabled) final {
+    enabled_ = enabled;
+    surface_.checkFocus();
+  }
+  bool Visible() const final { return visible_; }
+  void Visible(bool visible) final {
+    visible_ = visible;
+    surface_.checkFocus();
+  }
+
+  std::uint32_t BackColor() const final { return back_; }
+  void BackColor(std::uint32_t colour) final { back_ = colour; }
+  std::uint32_t ForeColor() const final { return fore_; }
+  void ForeColor(std::uint32_t colour) final { fore_ = colour; }
+
+  void SetFocus() final { surface_.giveFocus(*this); }
+  bool hasFocus() const final { return surface_.platform().focused() == this; }
+
+ protected:
+  Common(const Making& making, std::uint32_t back)
+      : layout_(making.layout),
+        surface_(making.surface),
+        frame_(making.frame),
+        place_(making.layout.place),
+        back_(back),
+        fore_(making.layout.fore),
+        enabled_(making.layout.enabled),
+        visible_(making.layout.visible) {}
+
+  Surface& surface() const { return surface_; }
+
+ private:
+  const toolkit::WidgetLayout& layout_;
+  Surface& surface_;
+  toolkit::Frame* frame_;
+  toolkit::Place place_;
+  std::uint32_t back_;
+  std::uint32_t fore_;
+  bool enabled_;
+  bool visible_;
+};
+
+}  // namespace qvn::memory
