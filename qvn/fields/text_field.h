@@ -1,0 +1,33 @@
+// The handlers and properties that plain fields have alike from panel to panel.
+#pragma once
+
+#include <cstdint>
+#include <string_view>
+
+#include "qvn/toolkit/widget.h"
+
+namespace qvn::fields {
+
+/// Tells the container that a public property of the widget's panel has changed.
+void announce(const toolkit::Widget& widget, std::string_view property);
+
+/// A key filter of Gest_SCHEDE; the last argument is its limit of length or decimals.
+using Filter = void (*)(toolkit::TextBox&, std::int16_t&, std::int16_t);
+
+/// Wires a field without behaviour of its own: a change is announced under the property's name, gaining the focus
+/// selects the text and colours the field, keys pass the filter, losing the focus takes the colour away. The name must
+/// live as long as the program.
+void wire(toolkit::TextBox& box, std::string_view property, Filter filter, std::int16_t limit);
+
+/// Wires a field of whole percents: as above, of at most three digits, and each change once announced is kept between 0
+/// and 100. An empty field becomes "0", a value above 100 becomes "100", and what was corrected is selected, so that
+/// the next digit replaces it. A text that is no number fails with "type mismatch", naming the box, and stays.
+void wirePercent(toolkit::TextBox& box, std::string_view property);
+
+/// Writes the text if the box shows another.
+void show(toolkit::TextBox& box, std::string_view text);
+
+/// The box's text as a number from 0 to 255. Fails with "type mismatch" or "overflow", naming the box.
+std::uint8_t byteOf(const toolkit::TextBox& box);
+
+}  // namespace qvn::fields
