@@ -1,0 +1,16 @@
+// Like as the statements expect it: accented letters match without regard to case too.
+#pragma once
+
+#include <sqlite3.h>
+#include <string_view>
+
+namespace qvn::sqlite {
+
+/// Whether a text matches a pattern, in which "%" stands for any run of characters and "_" for any one. Letters match
+/// without regard to case, as far as U+00DE. A character behind the escape stands for itself; '\0' is no escape.
+bool isLike(std::string_view text, std::string_view pattern, char32_t escape = 0);
+
+/// Puts it in the place of the database's own Like.
+void addLike(sqlite3& database);
+
+}  // namespace qvn::sqlite

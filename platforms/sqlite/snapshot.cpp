@@ -1,0 +1,123 @@
+#include "platforms/sqlite/snapshot.h"
+
+#include <cstdint>
+#include <cstring>
+#include <limits>
+#include <new>
+
+#include "platforms/sqlite/guards.h"
+#include "qvn/shared/failure.h"
+#include "qvn/shared/names.h"
+
+namespace qvn::sqlite {
+
+namespace {
+
+enum class Cell : char { Null, Integer, Real, Text, Binary };
+
+using TextLength = std::uint32_t;
+
+template <class Value>
+void append(std::vector<char>& cells, Value value) {
+  const auto* bytes = reinterpret_cast<const char*>(&value);
+  cells.insert(cells.end(), bytes, bytes + sizeof value);
+}
+
+template <class Value>
+Value valueAt(const char* place) {
+  Value value;
+  std::memcpy(&value, place, sizeof value);
+  return value;
+}
+
+/// The bytes of the cell that begins at a place.
+std::size_t sizeAt(const char* cell) {
+  switch (valueAt<Cell>(cell)) {
+    case Cell::Integer:
+      return 1 + sizeof(std::int64_t);
+    case Cell::Real:
+      return 1 + sizeof(double);
+    case Cell::Text:
+      return 1 + sizeof(TextLength) + valueAt<TextLength>(cell + 1);
+    default:
+      return 1;
+  }
+}
+
+Variant integer(std::int64_t value) {
+  using Short = std::numeric_limits<std::int32_t>;
+  if (value < Short::min() || value > Short::max()) return Decimal::of(value);
+  return static_cast<std::int32_t>(value);
+}
+
+}  // namespace
+
+void Snapshot::add(sqlite3_stmt* statement) {
+  constexpr std::size_t kUsualRow = 64;
+  if (rows_ == 0) cells_.reserve(kUsualRow);
+  const int count = static_cast<int>(columns_->size());
+  for (int i = 0; i < count; ++i) {
+    switch (sqlite3_column_type(statement, i)) {
+      case SQLITE_INTEGER:
+        append(cells_, Cell::Integer);
+        append<std::int64_t>(cells_, sqlite3_column_int64(statement, i));
+        break;
+      case SQLITE_FLOAT:
+        append(cells_, Cell::Real);
+        append(cells_, sqlite3_column_double(statement, i));
+        break;
+      case SQLITE_TEXT: {
+        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, i));
+        const auto length = static_cast<TextLength>(sqlite3_column_bytes(statement, i));
+        if (text == nullptr) throw std::bad_alloc();
+        append(cells_, Cell::Text);
+        append(cells_, length);
+        cells_.insert(cells_.end(), text, text + length);
+        break;
+      }
+      case SQLITE_BLOB:
+        append(cells_, Cell::Binary);
+        break;
+      default:
+        append(cells_, Cell::Null);
+        break;
+    }
+  }
+  ++rows_;
+  if (cells_.size() > kLargestAnswer) throw Failure(FailureKind::Database, "it gives more rows than can be held");
+}
+
+void Snapshot::next() {
+  if (atEnd()) throw Failure(FailureKind::Database, "there is no row behind the last one");
+  for (std::size_t i = 0; i < columns_->size(); ++i) at_ += sizeAt(&cells_[at_]);
+  ++row_;
+}
+
+Variant Snapshot::value(std::string_view column) const {
+  const std::string name(column);
+  if (atEnd()) throw Failure(FailureKind::Database, "there is no row to read the column \"" + name + "\" of");
+  const char* cell = &cells_[at_];
+  for (const std::string& known : *columns_) {
+    if (!sameName(known, column)) {
+      cell += sizeAt(cell);
+      continue;
+    }
+    switch (valueAt<Cell>(cell)) {
+      case Cell::Integer:
+        return integer(valueAt<std::int64_t>(cell + 1));
+      case Cell::Real:
+        return valueAt<double>(cell + 1);
+      case Cell::Text:
+        return std::string(cell + 1 + sizeof(TextLength), valueAt<TextLength>(cell + 1));
+      case Cell::Binary:
+        throw Failure(FailureKind::Database, "the column \"" + name + "\" holds a binary value");
+      default:
+        return Null{};
+    }
+  }
+  std::string message = "the answer has no column \"" + name + "\"; it has:";
+  for (const std::string& known : *columns_) message.append(" \"").append(known).append("\"");
+  throw Failure(FailureKind::Database, message);
+}
+
+}  // namespace qvn::sqlite

@@ -1,0 +1,67 @@
+#include "qvn/lookups/query.h"
+
+#include <type_traits>
+
+#include "qvn/fields/Gest_SCHEDE.h"
+#include "qvn/shared/Globale.h"
+#include "qvn/shared/conversions.h"
+#include "qvn/shared/failure.h"
+#include "qvn/shared/patterns.h"
+#include "qvn/shared/statements.h"
+
+namespace qvn::lookups {
+
+namespace {
+
+/// How a database writes a number that it keeps as text: a point, and no grouping that an office would write.
+constexpr Locale kDatabaseForm{.decimalSign = '.', .groupingSign = '\''};
+
+const Locale& officeForm() { return Globale::platform().locale(); }
+
+const Locale& formOf(const Variant& value) {
+  const auto* text = std::get_if<std::string>(&value);
+  return text != nullptr && isNumber(*text, kDatabaseForm) ? kDatabaseForm : officeForm();
+}
+
+std::string concatenation(std::initializer_list<std::string_view> pieces) {
+  std::size_t size = 0;
+  for (std::string_view piece : pieces) size += piece.size();
+  std::string whole;
+  whole.reserve(size);
+  for (std::string_view piece : pieces) whole.append(piece);
+  return whole;
+}
+
+}  // namespace
+
+void fireMancaDB() { Globale::Eventi()->FireMancaDB(); }
+
+void removeQuotes(std::string& key) { Gest_SCHEDE::TestoSostituisci(key, statements::kQuote, {}); }
+
+Query::Query(std::initializer_list<std::string_view> pieces, Cursor cursor) {
+  rows_.Open(concatenation(pieces), Globale::DB(), cursor.type, cursor.lock, toolkit::adOptionUnspecified);
+}
+
+template <class Target>
+Target Query::as(std::string_view column) const {
+  const Variant stored = value(column);
+  try {
+    return qvn::as<Target>(stored, std::is_same_v<Target, std::string> ? officeForm() : formOf(stored));
+  } catch (const Failure& failure) {
+    throw failure.within(column);
+  }
+}
+
+template std::string Query::as<std::string>(std::string_view column) const;
+template Currency Query::as<Currency>(std::string_view column) const;
+template std::int16_t Query::as<std::int16_t>(std::string_view column) const;
+
+std::string Query::generalText(std::string_view column) const {
+  const Variant stored = value(column);
+  if (std::holds_alternative<std::string>(stored) && &formOf(stored) == &kDatabaseForm) {
+    return format(toDouble(std::get<std::string>(stored), kDatabaseForm), Pattern::General, officeForm()).str();
+  }
+  return formatValue(stored, Pattern::General, officeForm());
+}
+
+}  // namespace qvn::lookups
