@@ -1,0 +1,69 @@
+// What the operator does.
+#include <array>
+
+#include "hosts/play/requests.h"
+#include "qvn/shared/failure.h"
+
+namespace qvn::play {
+
+namespace {
+
+/// Does something to the widget that the request names; a failure names it too.
+template <class Act>
+void atWidget(Session& session, const Request& request, Act&& act) {
+  const toolkit::Surface& panel = session.panels().at(request.text("panel")).surface();
+  toolkit::Widget& widget = panel.widget(request.text("widget"));
+  try {
+    act(widget);
+  } catch (const Failure& failure) {
+    throw Failure(failure.kind(), placed(panel, widget, failure.what()));
+  }
+}
+
+void focus(Session& session, const Request& request, Answer&) {
+  atWidget(session, request, [&](toolkit::Widget& widget) { session.hands().focus(widget); });
+}
+
+void leave(Session& session, const Request&, Answer&) { session.hands().leave(); }
+
+void type(Session& session, const Request& request, Answer&) { session.hands().type(request.text("keys")); }
+
+void caret(Session& session, const Request& request, Answer&) {
+  const std::int32_t start = request.whole("start");
+  session.hands().caret(start, request.whole("length"));
+}
+
+void paste(Session& session, const Request& request, Answer&) { session.hands().paste(request.text("text")); }
+
+void click(Session& session, const Request& request, Answer&) {
+  atWidget(session, request, [&](toolkit::Widget& widget) { session.hands().click(widget); });
+}
+
+void choose(Session& session, const Request& request, Answer&) {
+  atWidget(session, request, [&](toolkit::Widget& widget) {
+    if (widget.Kind() != toolkit::WidgetKind::ComboBox) throw Failure(FailureKind::InvalidCall, "it is no closed list");
+    auto& list = static_cast<toolkit::ComboBox&>(widget);
+    if (request.has("item")) {
+      session.hands().choose(list, request.text("item"));
+    } else {
+      session.hands().choose(list, request.whole("index"));
+    }
+  });
+}
+
+}  // namespace
+
+std::span<const RequestKind> operatorRequests() {
+  static constexpr std::array kinds{
+      RequestKind{.name = "focus", .carryOut = focus, .byOperator = true},
+      RequestKind{.name = "leave", .carryOut = leave, .byOperator = true},
+      RequestKind{.name = "type", .carryOut = type, .byOperator = true},
+      RequestKind{.name = "caret", .carryOut = caret, .byOperator = true},
+      RequestKind{.name = "paste", .carryOut = paste, .byOperator = true},
+      RequestKind{.name = "click", .carryOut = click, .byOperator = true},
+      RequestKind{.name = "choose", .carryOut = choose, .byOperator = true},
+  };
+  return kinds;
+}
+
+}  // namespace qvn::play

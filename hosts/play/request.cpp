@@ -1,0 +1,85 @@
+#include "hosts/play/request.h"
+
+#include "hosts/play/bad_request.h"
+
+namespace qvn::play {
+
+namespace {
+
+constexpr int kDeepest = 64;  // values nest three deep; what nests further would only cost stack
+
+Json parsed(std::string_view line) {
+  try {
+    return Json::parse(line, [](int depth, Json::parse_event_t /*event*/, Json& /*value*/) {
+      if (depth > kDeepest) throw BadRequest("no JSON object: nested too deeply");
+      return true;
+    });
+  } catch (const Json::parse_error& error) {
+    throw BadRequest("no JSON object, from byte " + std::to_string(error.byte) +
+                     " on: " + shortened(std::string(line)));
+  } catch (const Json::exception&) {
+    throw BadRequest("no JSON object, for a number out of range: " + shortened(std::string(line)));
+  }
+}
+
+}  // namespace
+
+Request::Request(std::string_view line) : json_(parsed(line)) {
+  if (!json_.is_object()) throw BadRequest("no JSON object: " + excerpt(json_));
+  const auto wanted = json_.find("do");
+  if (wanted == json_.end() || !wanted->is_string()) throw BadRequest("no text \"do\" in " + excerpt(json_));
+  name_ = wanted->get<std::string>();
+}
+
+const Json& Request::field(const char* name) const {
+  const auto found = json_.find(name);
+  if (found == json_.end()) throw BadRequest(std::string("the field \"") + name + "\" is missing");
+  return *found;
+}
+
+const std::string& Request::text(const char* name) const {
+  const Json& value = field(name);
+  if (!value.is_string()) throw BadRequest(std::string("\"") + name + "\" is no text: " + excerpt(value));
+  return value.get_ref<const std::string&>();
+}
+
+std::optional<std::string> Request::textOrNull(const char* name) const {
+  if (field(name).is_null()) return std::nullopt;
+  return text(name);
+}
+
+std::int32_t Request::whole(const char* name) const {
+  const Json& value = field(name);
+  if (value.is_number()) {
+    const Variant number = toVariant(value, {});
+    if (const auto* count = std::get_if<std::int32_t>(&number)) return *count;
+  }
+  throw BadRequest(std::string("\"") + name + "\" is no 32-bit integer: " + excerpt(value));
+}
+
+bool Request::flag(const char* name, bool otherwise) const {
+  if (!has(name)) return otherwise;
+  const Json& value = field(name);
+  if (!value.is_boolean())
+    throw BadRequest(std::string("\"") + name + "\" is neither true nor false: " + excerpt(value));
+  return value.get<bool>();
+}
+
+Variant Request::value(const char* name, const Locale& locale) const { return toVariant(field(name), locale); }
+
+std::vector<Variant> Request::values(const char* name, const Locale& locale) const {
+  std::vector<Variant> result;
+  if (!has(name)) return result;
+  const Json& list = field(name);
+  if (!list.is_array()) throw BadRequest(std::string("\"") + name + "\" is no list: " + excerpt(list));
+  for (const Json& one : list) {
+    try {
+      result.push_back(toVariant(one, locale));
+    } catch (const BadRequest& bad) {
+      throw BadRequest(std::string("\"") + name + "\"[" + std::to_string(result.size()) + "]: " + bad.what());
+    }
+  }
+  return result;
+}
+
+}  // namespace qvn::play

@@ -1,0 +1,40 @@
+// One line of a session, read field by field.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "hosts/play/values.h"
+
+namespace qvn::play {
+
+/// Each reader fails with BadRequest, naming the field, if the field is missing or of another type.
+class Request {
+ public:
+  /// Reads a line. BadRequest if it is no JSON object with the text "do", or is nested beyond reason.
+  explicit Request(std::string_view line);
+
+  const std::string& name() const { return name_; }
+  bool has(const char* field) const { return json_.contains(field); }
+
+  const std::string& text(const char* field) const;
+  /// Nothing where the field is null.
+  std::optional<std::string> textOrNull(const char* field) const;
+  std::int32_t whole(const char* field) const;
+  /// The default where the field is left out.
+  bool flag(const char* field, bool otherwise) const;
+  Variant value(const char* field, const Locale& locale) const;
+  /// None where the field is left out.
+  std::vector<Variant> values(const char* field, const Locale& locale) const;
+
+ private:
+  const Json& field(const char* name) const;
+
+  Json json_;
+  std::string name_;
+};
+
+}  // namespace qvn::play

@@ -1,0 +1,99 @@
+#include "hosts/play/session.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "hosts/play/bad_request.h"
+#include "hosts/play/requests.h"
+#include "qvn/shared/Globale.h"
+#include "qvn/shared/failure.h"
+
+namespace qvn::play {
+
+namespace {
+
+const RequestKind& kindOf(const Request& request) {
+  for (const auto& kinds : {hostRequests(), operatorRequests(), lookingRequests()}) {
+    const auto found = std::ranges::find(kinds, request.name(), &RequestKind::name);
+    if (found != kinds.end()) return *found;
+  }
+  throw BadRequest("there is no request " + excerpt(request.name()));
+}
+
+Answer failed(std::string_view failure, std::string_view message) {
+  Answer answer = Answer::object();
+  answer["ok"] = false;
+  answer["failure"] = failure;
+  answer["message"] = message;
+  return answer;
+}
+
+constexpr std::string_view kBadRequest = "bad request";
+
+}  // namespace
+
+Session::Session(Toolkit& toolkit, std::span<toolkit::Driver* const> drivers) : toolkit_(toolkit), panels_(journal_) {
+  Globale::install(toolkit_.platform());
+  for (toolkit::Driver* driver : drivers) {
+    drivers_.push_back(std::make_unique<JournalingDriver>(*driver, journal_));
+    toolkit_.platform().drivers().add(*drivers_.back());
+  }
+  toolkit_.watch(&journal_);
+  listenForMancaDB();
+}
+
+Session::~Session() {
+  panels_.clear();
+  Globale::unload();
+  toolkit_.watch(nullptr);
+  toolkit_.platform().drivers().clear();
+}
+
+void Session::listenForMancaDB() {
+  mancaDB_ = Globale::Eventi()->MancaDB.subscribe([this] {
+    journal_.mancaDB();
+    if (mancaDBAnswer_) Globale::Eventi()->ImpostaDB(*mancaDBAnswer_);
+  });
+}
+
+void Session::unload() {
+  panels_.clear();
+  Globale::unload();
+  listenForMancaDB();
+}
+
+Answer Session::answer(std::string_view line) {
+  Answer answer = carriedOut(line);
+  if (!answer["ok"].get<bool>()) {
+    anyFailed_ = true;
+    anyBadRequest_ = anyBadRequest_ || answer["failure"] == kBadRequest;
+  }
+  return answer;
+}
+
+Answer Session::carriedOut(std::string_view line) {
+  const std::int32_t beepsBefore = journal_.beeps();
+  const RequestKind* kind = nullptr;
+  Answer added = Answer::object();
+  Answer answer = Answer::object();
+  try {
+    const Request request(line);
+    kind = &kindOf(request);
+    kind->carryOut(*this, request, added);
+    answer["ok"] = true;
+  } catch (const BadRequest& bad) {
+    answer =
+        failed(kBadRequest, kind == nullptr ? bad.what() : std::string(kind->name).append(": ").append(bad.what()));
+  } catch (const Failure& failure) {
+    answer = failed(nameOf(failure.kind()), failure.what());
+  }
+  answer.update(added);
+  if (kind != nullptr && kind->byOperator) {
+    answer["beeps"] = journal_.beeps() - beepsBefore;
+    answer["failures"] = panels_.takeFailures();
+    answer["shown"] = Answer::array();
+  }
+  return answer;
+}
+
+}  // namespace qvn::play
