@@ -1,0 +1,43 @@
+# What `cmake --install` lays down: libraries, headers under the paths they have in the tree, programs, and what
+# find_package(qvn) needs.
+
+include(CMakePackageConfigHelpers)
+
+get_property(libraries GLOBAL PROPERTY QVN_INSTALLED)
+set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/qvn)
+
+# All libraries at once, for those who do not care for the layers.
+add_library(qvn_all INTERFACE)
+add_library(qvn::qvn ALIAS qvn_all)
+target_link_libraries(qvn_all INTERFACE ${libraries})
+set_target_properties(qvn_all PROPERTIES EXPORT_NAME qvn)
+
+install(TARGETS ${libraries} qvn_all EXPORT qvn)
+install(EXPORT qvn NAMESPACE qvn:: DESTINATION ${package_dir} FILE qvn-targets.cmake)
+
+# The headers of what was built, and of nothing else.
+file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}
+  ${PROJECT_SOURCE_DIR}/qvn/*.h ${PROJECT_SOURCE_DIR}/platforms/*.h)
+if(NOT QVN_SQLITE)
+  list(FILTER headers EXCLUDE REGEX "^platforms/sqlite/")
+endif()
+foreach(header IN LISTS headers)
+  cmake_path(GET header PARENT_PATH folder)
+  install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
+endforeach()
+
+foreach(program qvn_play qvn_campione)
+  if(TARGET ${program})
+    install(TARGETS ${program})
+  endif()
+endforeach()
+
+configure_package_config_file(cmake/qvn-config.cmake.in qvn-config.cmake INSTALL_DESTINATION ${package_dir})
+write_basic_package_version_file(qvn-config-version.cmake COMPATIBILITY SameMinorVersion)
+install(FILES ${PROJECT_BINARY_DIR}/qvn-config.cmake ${PROJECT_BINARY_DIR}/qvn-config-version.cmake
+  DESTINATION ${package_dir})
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+
+if(QVN_TESTS)
+  add_subdirectory(tests/package)
+endif()

@@ -1,0 +1,4 @@
+// Stands before the installed one where the core is built alone.
+#pragma once
+
+#error "the core is built where no SQLite is installed"

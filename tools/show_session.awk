@@ -1,0 +1,141 @@
+# Tells a played session to a person: awk -f show_session.awk SESSION ANSWERS
+#
+# The session's own remarks as they stand, each request in words, each drawn panel as a picture, and of any other
+# answer what it adds. A session is one JSON object a line; an answer stands for each line that is one.
+
+BEGIN {
+  words["connect"] = "The host opens the database {string}."
+  words["answer"] = "From now on the host answers the library's asking for the database with {string}."
+  words["disconnect"] = "The database is closed from outside."
+  words["unload"] = "The host drops all panels and unloads the library."
+  words["new"] = "The host makes the panel {panel}, a {class}."
+  words["drop"] = "The host drops the panel {panel}."
+  words["show"] = "The host shows or hides the panel {panel}."
+  words["let"] = "The host writes {value} into {panel}.{name}."
+  words["get"] = "The host reads {panel}.{name}."
+  words["call"] = "The host calls {panel}.{name} {args}"
+  words["lookup"] = "The host looks up {name} {args}"
+  words["classes"] = "Which panels are there?"
+  words["members"] = "Which members has {class}?"
+  words["today"] = "It is {date}."
+  words["focus"] = "The operator goes to {widget}."
+  words["leave"] = "The operator leaves the panels."
+  words["type"] = "The operator types {keys}"
+  words["caret"] = "The operator selects {length} characters from {start} on."
+  words["paste"] = "The operator pastes {text}"
+  words["click"] = "The operator clicks {widget}."
+  words["choose"] = "The operator chooses {item}{index} in {widget}."
+  words["operator"] = "When {form} shows, the operator will do {acts}"
+  words["look"] = "How does {panel} {widget} stand?"
+  words["draw"] = "The panel {panel}:"
+  words["focused"] = "Who has the focus?"
+  words["forms"] = "Which forms are loaded?"
+  words["journal"] = "What has happened?"
+  answers = ARGV[2]
+  ARGC = 2
+}
+
+# The end of the JSON value that begins at a place of a text.
+function value_end(text, at,    depth, c) {
+  depth = 0
+  for (; at <= length(text); ++at) {
+    c = substr(text, at, 1)
+    if (c == "\"") {
+      while (++at <= length(text) && (c = substr(text, at, 1)) != "\"") if (c == "\\") ++at
+    } else if (c == "[" || c == "{") {
+      ++depth
+    } else if (c == "]" || c == "}") {
+      if (depth == 0) return at - 1
+      --depth
+    } else if (c == "," && depth == 0) {
+      return at - 1
+    }
+    if (depth == 0 && c ~ /["\]}]/) return at
+  }
+  return length(text)
+}
+
+# What a JSON string says, without its quotes; any other value as it is written.
+function plain(value) {
+  if (value !~ /^"/) return value
+  value = substr(value, 2, length(value) - 2)
+  gsub(/\\"/, "\"", value)
+  gsub(/\\\\/, "\\", value)
+  return value
+}
+
+# Takes a JSON object apart into fields[key]; gives the number of them, and their keys in order in keys[].
+function take_apart(object, fields, keys,    at, end, key, count) {
+  split("", fields)
+  split("", keys)
+  at = index(object, "{") + 1
+  while (match(substr(object, at), /^[ ,]*"/)) {
+    at += RLENGTH - 1
+    end = value_end(object, at)
+    key = plain(substr(object, at, end - at + 1))
+    at = end + 1
+    match(substr(object, at), /^ *: */)
+    at += RLENGTH
+    end = value_end(object, at)
+    fields[key] = substr(object, at, end - at + 1)
+    keys[++count] = key
+    at = end + 1
+  }
+  return count
+}
+
+function in_words(request, fields,    text, key) {
+  if (!(plain(fields["do"]) in words)) return request
+  text = words[plain(fields["do"])]
+  while (match(text, /[{][a-z]+[}]/)) {
+    key = substr(text, RSTART + 1, RLENGTH - 2)
+    text = substr(text, 1, RSTART - 1) "\001" (key in fields ? plain(fields[key]) : "") "\002" substr(text, RSTART + RLENGTH)
+    # What was put in may hold braces of its own, as keys do: they are out of reach until all is put in.
+    text = hidden(text)
+  }
+  gsub(/\003/, "{", text)
+  sub(/ +$/, "", text)
+  return text
+}
+
+function hidden(text,    from, to, inside) {
+  from = index(text, "\001")
+  to = index(text, "\002")
+  inside = substr(text, from + 1, to - from - 1)
+  gsub(/[{]/, "\003", inside)
+  return substr(text, 1, from - 1) inside substr(text, to + 1)
+}
+
+function show_list(list, indent,    at, end) {
+  at = index(list, "[") + 1
+  while (match(substr(list, at), /^[ ,]*[^], ]/)) {
+    at += RLENGTH - 1
+    end = value_end(list, at)
+    print indent plain(substr(list, at, end - at + 1))
+    at = end + 1
+  }
+}
+
+function show_answer(answer,    fields, keys, count, i, key) {
+  count = take_apart(answer, fields, keys)
+  if (fields["ok"] == "false") print "    FAILED, " plain(fields["failure"]) ": " plain(fields["message"])
+  for (i = 1; i <= count; ++i) {
+    key = keys[i]
+    if (key == "lines") show_list(fields[key], "    ")
+    else if (key == "value") print "    -> " plain(fields[key])
+    else if (key ~ /^(ok|failure|message)$/ || fields[key] == "0" || fields[key] == "[]") continue
+    else if (fields[key] ~ /^\[/) {
+      print "    " key ":"
+      show_list(fields[key], "      ")
+    } else print "    " key ": " plain(fields[key])
+  }
+}
+
+/^[ \t\r]*$/ { print ""; next }
+/^#/ { sub(/^# ?/, ""); print; next }
+{
+  take_apart($0, request, request_keys)
+  print "  " in_words($0, request)
+  if ((getline answer < answers) > 0) show_answer(answer)
+  else { print "    no answer: the session ended here"; exit }
+}
