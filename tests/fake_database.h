@@ -30,17 +30,29 @@ struct Ran {
   friend bool operator==(const Ran&, const Ran&) = default;
 };
 
+struct Opened {
+  std::string connectionString;
+  std::string rest;
+  std::string user;
+  std::string password;
+  std::int32_t options;
+  std::int32_t cursorLocation;
+
+  friend bool operator==(const Opened&, const Opened&) = default;
+};
+
 class FakeDriver final : public toolkit::Driver {
  public:
   std::string_view head() const override { return "fake:"; }
 
   std::unique_ptr<toolkit::Session> open(const toolkit::Opening& opening) override {
-    openings.emplace_back(std::string(opening.connectionString), opening.cursorLocation);
+    openings.push_back({std::string(opening.connectionString), std::string(opening.rest), std::string(opening.user),
+                        std::string(opening.password), opening.options, opening.cursorLocation});
     if (opening.rest == "refused") throw Failure(FailureKind::Database, "the database \"refused\" cannot be opened");
     return std::make_unique<FakeSession>(*this);
   }
 
-  std::vector<std::pair<std::string, std::int32_t>> openings;
+  std::vector<Opened> openings;
   std::vector<Ran> ran;
   std::map<std::string, FakeAnswer, std::less<>> answers;  ///< by statement; one that is not here gives no rows
   std::size_t failingStatement = 0;                        ///< the number of the statement that fails, from 1

@@ -17,7 +17,7 @@ class OnPlatform : public testing::TestWithParam<PlatformMaker> {
     platform().drivers().add(driver_);
     Globale::install(platform());
   }
-  ~OnPlatform() override { Globale::unload(); }
+  ~OnPlatform() override { Globale::uninstall(); }
 
   toolkit::Platform& platform() { return under_->platform(); }
   Operator& hands() { return under_->hands(); }
@@ -25,6 +25,7 @@ class OnPlatform : public testing::TestWithParam<PlatformMaker> {
   FakeDriver& driver() { return driver_; }
   std::int64_t beeps() const { return under_->beeps(); }
   void today(Date date) { under_->today(date); }
+  void setLocale(const Locale& locale) { under_->setLocale(locale); }
 
  private:
   FakeDriver driver_;

@@ -42,12 +42,14 @@ void ColoreFuoco(toolkit::Widget& control, std::int16_t state);
 void CompletaData(toolkit::DateControl& control);
 
 /// Gives the focus to the next field in tab order, behind the last to the first: the enabled, visible text box, combo
-/// box, list, check box or date control with the next TabIndex. Does nothing from a date control; fails with "invalid
-/// call" from a check box, and where the next field lies in a disabled frame.
+/// box, check box or date control with the next TabIndex. Goes on from a text box or a combo box only; from a check box
+/// it fails with "invalid call", from anything else it does nothing. It fails so too where no field can be found, and
+/// where the one found cannot take the focus for its frame or panel; a filter that was given the Enter fails with it.
 void ProssimoCampo(toolkit::Widget& control);
 
 /// Replaces every occurrence, searching from the start after each, and returns the text. A replacement that contains
-/// what it replaces fails with "invalid call" if there is anything to replace, as it would never end.
+/// what it replaces fails with "invalid call" if there is anything to replace, as it would never end; one that makes up
+/// new occurrences with the text beside it is the caller's to avoid.
 std::string TestoSostituisci(std::string& text, std::string_view find, std::string_view replacement);
 
 /// 1 if a form of that name, in any case, is loaded, 0 otherwise.

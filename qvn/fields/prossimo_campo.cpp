@@ -40,6 +40,10 @@ Widget* nextBehind(const toolkit::Surface& panel, std::int16_t tabIndex) {
   return best;
 }
 
+std::string fullName(const Widget& widget) {
+  return std::string(widget.owner().name()).append(".").append(widget.Name());
+}
+
 }  // namespace
 
 void ProssimoCampo(Widget& control) {
@@ -48,7 +52,7 @@ void ProssimoCampo(Widget& control) {
     case WidgetKind::ComboBox:
       break;
     case WidgetKind::CheckBox:
-      throw Failure(FailureKind::InvalidCall, std::string(control.Name()).append(": Enter does not leave a check box"));
+      throw Failure(FailureKind::InvalidCall, fullName(control).append(": Enter does not leave a check box"));
     default:
       return;
   }
@@ -56,8 +60,7 @@ void ProssimoCampo(Widget& control) {
   Widget* next = nextBehind(panel, control.TabIndex());
   if (next == nullptr) next = nextBehind(panel, 0);
   if (next == nullptr) {
-    throw Failure(FailureKind::InvalidCall,
-                  std::string(control.Name()).append(": no field of the panel can take the focus"));
+    throw Failure(FailureKind::InvalidCall, fullName(control).append(": no field of the panel can take the focus"));
   }
   next->SetFocus();
 }

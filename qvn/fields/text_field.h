@@ -19,9 +19,10 @@ using Filter = void (*)(toolkit::TextBox&, std::int16_t&, std::int16_t);
 /// live as long as the program.
 void wire(toolkit::TextBox& box, std::string_view property, Filter filter, std::int16_t limit);
 
-/// Wires a field of whole percents: as above, of at most three digits, and each change once announced is kept between 0
-/// and 100. An empty field becomes "0", a value above 100 becomes "100", and what was corrected is selected, so that
-/// the next digit replaces it. A text that is no number fails with "type mismatch", naming the box, and stays.
+/// Wires a field of whole percents: as above, of at most three digits, and each change once announced is kept to 100 at
+/// most. An empty field becomes "0", a value above 100 becomes "100", and what was corrected is selected, so that
+/// the next digit replaces it. A text that is no number fails with "type mismatch", one beyond 16 bits with
+/// "overflow", both naming the box, and stays.
 void wirePercent(toolkit::TextBox& box, std::string_view property);
 
 /// Writes the text if the box shows another.

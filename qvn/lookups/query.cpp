@@ -13,14 +13,16 @@ namespace qvn::lookups {
 
 namespace {
 
-/// How a database writes a number that it keeps as text: a point, and no grouping that an office would write.
-constexpr Locale kDatabaseForm{.decimalSign = '.', .groupingSign = '\''};
+/// How a database writes a number that it keeps as text: a point, no grouping, no symbol.
+constexpr Locale kDatabaseForm{.decimalSign = '.', .groupingSign = '\0', .symbol = ""};
+constexpr std::string_view kDatabaseCharacters = "0123456789.+-eE";
 
 const Locale& officeForm() { return Globale::platform().locale(); }
 
-const Locale& formOf(const Variant& value) {
+bool isInDatabaseForm(const Variant& value) {
   const auto* text = std::get_if<std::string>(&value);
-  return text != nullptr && isNumber(*text, kDatabaseForm) ? kDatabaseForm : officeForm();
+  return text != nullptr && text->find_first_not_of(kDatabaseCharacters) == std::string::npos &&
+         isNumber(*text, kDatabaseForm);
 }
 
 std::string concatenation(std::initializer_list<std::string_view> pieces) {
@@ -46,7 +48,8 @@ template <class Target>
 Target Query::as(std::string_view column) const {
   const Variant stored = value(column);
   try {
-    return qvn::as<Target>(stored, std::is_same_v<Target, std::string> ? officeForm() : formOf(stored));
+    const bool asNumber = !std::is_same_v<Target, std::string>;
+    return qvn::as<Target>(stored, asNumber && isInDatabaseForm(stored) ? kDatabaseForm : officeForm());
   } catch (const Failure& failure) {
     throw failure.within(column);
   }
@@ -58,8 +61,8 @@ template std::int16_t Query::as<std::int16_t>(std::string_view column) const;
 
 std::string Query::generalText(std::string_view column) const {
   const Variant stored = value(column);
-  if (std::holds_alternative<std::string>(stored) && &formOf(stored) == &kDatabaseForm) {
-    return format(toDouble(std::get<std::string>(stored), kDatabaseForm), Pattern::General, officeForm()).str();
+  if (isInDatabaseForm(stored)) {
+    return format(qvn::as<Decimal>(stored, kDatabaseForm), Pattern::General, officeForm()).str();
   }
   return formatValue(stored, Pattern::General, officeForm());
 }

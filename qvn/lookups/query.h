@@ -26,7 +26,7 @@ struct Cursor {
 /// The statement put together from its pieces and run on the shared connection; released by going away.
 class Query {
  public:
-  explicit Query(std::initializer_list<std::string_view> pieces, Cursor cursor = {});
+  Query(std::initializer_list<std::string_view> pieces, Cursor cursor = {});
 
   bool found() const { return !rows_.Eof(); }
 

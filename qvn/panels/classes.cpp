@@ -28,7 +28,7 @@ static_assert(std::ranges::is_sorted(kClasses, {}, &PanelClass::name));
 std::span<const PanelClass> panelClasses() { return kClasses; }
 
 const PanelClass& panelClass(std::string_view name) {
-  const auto* found = std::ranges::find(kClasses, name, &PanelClass::name);
+  const auto found = std::ranges::find(kClasses, name, &PanelClass::name);
   if (found == kClasses.end()) {
     throw Failure(FailureKind::NoSuchMember, std::string("there is no panel class \"").append(name).append("\""));
   }

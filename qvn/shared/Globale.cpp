@@ -24,6 +24,11 @@ void install(toolkit::Platform& platform) {
   shared().platform = &platform;
 }
 
+void uninstall() {
+  unload();
+  shared().platform = nullptr;
+}
+
 toolkit::Platform& platform() {
   if (shared().platform == nullptr) throw Failure(FailureKind::InvalidCall, "the library is on no platform yet");
   return *shared().platform;

@@ -8,11 +8,14 @@
 
 namespace qvn::Globale {
 
-/// Puts the library on a platform; what was shared on another one before is let go. The platform stays the host's and
-/// must outlive every panel and lookup.
+/// Puts the library on a platform, unloading what was shared before. The platform stays the host's; it must outlive
+/// every panel, and the library must be taken off it before it goes.
 void install(toolkit::Platform& platform);
 
-/// The platform that panels and lookups work on. Fails with "invalid call" before install().
+/// Unloads the library and takes it off its platform.
+void uninstall();
+
+/// The platform that panels and lookups work on. Fails with "invalid call" before install() and after uninstall().
 toolkit::Platform& platform();
 
 /// The one connection, made closed at the first use.

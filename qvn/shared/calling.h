@@ -43,8 +43,8 @@ using Held =
 template <class Result, class... Parameters, class Function>
 Variant callWith(std::span<Variant> args, const Locale& locale, Function&& function) {
   if (args.size() != sizeof...(Parameters)) {
-    throw Failure(FailureKind::InvalidCall, "takes " + std::to_string(sizeof...(Parameters)) + " arguments, given " +
-                                                std::to_string(args.size()));
+    throw Failure(FailureKind::InvalidCall, "the arguments it takes are " + std::to_string(sizeof...(Parameters)) +
+                                                ", given were " + std::to_string(args.size()));
   }
   return [&]<std::size_t... I>(std::index_sequence<I...>)->Variant {
     std::tuple<Held<Parameters>...> held{as<Held<Parameters>>(args[I], locale)...};
@@ -54,7 +54,7 @@ Variant callWith(std::span<Variant> args, const Locale& locale, Function&& funct
       ~GiveBack() {
         [[maybe_unused]] auto one = [&]<std::size_t J, class Parameter>() {
           if constexpr (std::is_lvalue_reference_v<Parameter> && !std::is_const_v<std::remove_reference_t<Parameter>>)
-            args[J] = std::get<J>(held);
+            args[J] = std::move(std::get<J>(held));
         };
         (one.template operator()<I, Parameters>(), ...);
       }

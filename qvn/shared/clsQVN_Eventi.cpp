@@ -12,7 +12,7 @@ void clsQVN_Eventi::ImpostaDB(std::string_view Connessione) {
   toolkit::Connection& db = Globale::DB();
   if (!db.ConnectionString().empty() || Connessione.empty()) return;
   db.CursorLocation(toolkit::adUseClient);
-  db.Open(Connessione);
+  db.Open(Connessione, "", "", toolkit::adOptionUnspecified);
 }
 
 }  // namespace qvn

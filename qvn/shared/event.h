@@ -7,6 +7,8 @@
 #include <utility>
 #include <vector>
 
+#include "qvn/shared/failure.h"
+
 namespace qvn {
 
 /// Keeps a handler subscribed for as long as it lives; it may outlive the event, and may go away while it is raised.
@@ -15,22 +17,50 @@ using Subscription = std::shared_ptr<const std::function<void()>>;
 /// An event without arguments. Handlers run in the order of their subscription, inside raise().
 class Event {
  public:
+  Event() = default;
+  Event(const Event&) = delete;
+  Event& operator=(const Event&) = delete;
+
   [[nodiscard]] Subscription subscribe(std::function<void()> handler) {
     auto subscription = std::make_shared<const std::function<void()>>(std::move(handler));
+    forgetGone();
     handlers_.push_back(subscription);
     return subscription;
   }
 
-  /// Runs the handlers subscribed at this moment. A failure of one passes to the caller, and those after it do not run.
+  /// Runs the handlers subscribed at this moment. What one throws passes to the caller, and those after it do not run.
+  /// Fails with "invalid call" where handlers raise the event again without end.
   void raise() {
-    std::erase_if(handlers_, [](const auto& handler) { return handler.expired(); });
+    constexpr int kDeepest = 100;
+    if (depth_ == kDeepest) {
+      throw Failure(FailureKind::InvalidCall, "a handler of the event raises it again without end");
+    }
+    const Raising raising(depth_);
+    forgetGone();
     const auto now = handlers_;
     for (const auto& handler : now) {
-      if (const Subscription subscription = handler.lock()) (*subscription)();
+      const Subscription subscription = handler.lock();
+      if (subscription && *subscription) (*subscription)();
     }
   }
 
  private:
+  class Raising {
+   public:
+    explicit Raising(int& depth) : depth_(++depth) {}
+    ~Raising() { --depth_; }
+    Raising(const Raising&) = delete;
+    Raising& operator=(const Raising&) = delete;
+
+   private:
+    int& depth_;
+  };
+
+  void forgetGone() {
+    std::erase_if(handlers_, [](const auto& handler) { return handler.expired(); });
+  }
+
+  int depth_ = 0;
   std::vector<std::weak_ptr<const std::function<void()>>> handlers_;
 };
 

@@ -66,7 +66,7 @@ constexpr std::array<std::string_view, 2> kSingle{
     "Select DESC_CLIENTE From CLIENTI Where COD_CLIENTE = '",
     "Select DESCRIZIONE From SOTTORAMI Where COD_SRAMO = ",
 };
-// A near twin of the look-up of COD_PROD, on another key column.
+// A near twin of the lookup of COD_PROD, on another key column.
 constexpr std::array<std::string_view, 1> kTitleLead{
     "Select COD_COMP FROM SOSPESI Where COD_COMP = COD_COMP_DEL AND NPROT = ",
 };

@@ -9,7 +9,7 @@ namespace qvn::statements {
 
 inline constexpr std::string_view kQuote = "'";
 
-// Single look-ups.
+// Single lookups. The two on a lead company or producer end with the test of the flag, behind a number or a text key.
 inline constexpr std::string_view kTIPO_SK = "Select TIPO_SK FROM RAMI Where COD_RAMO = '";
 inline constexpr std::string_view kR_ACC = "Select R_ACC From PRODUTTORI Where COD_PROD = '";
 inline constexpr std::string_view kPRODUTTORE = "Select DENOMINAZIONE, PERCALT From PRODUTTORI Where COD_PROD = '";

@@ -15,7 +15,8 @@ class Container {
  public:
   virtual ~Container() = default;
 
-  /// A public property of the panel has changed. The name's case may differ from the property's own.
+  /// A public property of the panel has changed. The name's case may differ from the property's own. What it throws
+  /// passes to whoever made the change. It may drop the panel.
   virtual void PropertyChanged(Surface& panel, std::string_view name) = 0;
 
   /// A handler that the operator's hand started has failed: its panel, widget and event ("KeyPress", "Change", …). The

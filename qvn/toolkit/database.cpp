@@ -15,13 +15,16 @@ Driver& Drivers::find(std::string_view connectionString) const {
   throw Failure(FailureKind::Database, message);
 }
 
-void Connection::Open(std::string_view connectionString, std::string_view /*user*/, std::string_view /*password*/,
-                      std::int32_t /*options*/) {
+void Connection::Open(std::string_view connectionString, std::string_view user, std::string_view password,
+                      std::int32_t options) {
   if (session_) throw Failure(FailureKind::InvalidCall, "the connection is open already");
   connectionString_ = connectionString;
   Driver& driver = drivers_->find(connectionString_);
   session_ = driver.open({.connectionString = connectionString_,
                           .rest = std::string_view(connectionString_).substr(driver.head().size()),
+                          .user = user,
+                          .password = password,
+                          .options = options,
                           .cursorLocation = cursorLocation_});
 }
 

@@ -44,7 +44,7 @@ class Rows {
   virtual Variant value(std::string_view column) const = 0;
 };
 
-/// An open database. Owned by the connection; its rows do not outlive it.
+/// An open database. Owned by the connection; rows that it gave may outlive it.
 class Session {
  public:
   virtual ~Session() = default;
@@ -56,6 +56,9 @@ class Session {
 struct Opening {
   std::string_view connectionString;  ///< whole
   std::string_view rest;              ///< what stands behind the driver's head
+  std::string_view user = {};
+  std::string_view password = {};
+  std::int32_t options = adOptionUnspecified;
   std::int32_t cursorLocation = 0;
 };
 
@@ -92,8 +95,8 @@ class Connection {
   std::int32_t CursorLocation() const { return cursorLocation_; }
   void CursorLocation(std::int32_t location) { cursorLocation_ = location; }
 
-  /// "database" if the string cannot be opened; the connection string stays set. "invalid call" if already open.
-  /// User, password and options are there for drivers that ask for them.
+  /// "database" if the string cannot be opened; the connection string stays set. "invalid call" if already open. User,
+  /// password and options go to the driver, which may have no use for them.
   void Open(std::string_view connectionString, std::string_view user = {}, std::string_view password = {},
             std::int32_t options = adOptionUnspecified);
   /// Closes from outside; closing a closed connection does nothing. The connection string stays.
@@ -109,7 +112,7 @@ class Connection {
   std::int32_t cursorLocation_ = 2;
 };
 
-/// A result set, opened once with a statement on a connection and released by going away.
+/// A result set, opened with a statement on a connection and released by going away.
 class Recordset {
  public:
   /// "database" if the connection is closed or the statement cannot be run.

@@ -34,8 +34,9 @@ enum class Align : std::uint8_t { Left, Right, Center };
 
 inline constexpr std::uint32_t kBlack = 0x000000;
 inline constexpr std::uint32_t kWhite = 0xFFFFFF;
-inline constexpr std::uint32_t kFaceGray = 0xC0C0C0;  ///< the back of frames, labels and buttons
-inline constexpr std::uint32_t kBlue = 0xFF0000;      // red is the low byte
+inline constexpr std::uint32_t kFaceGray =
+    0xC0C0C0;  ///< the face of frames and buttons; what a label reads back, though it shows no back of its own
+inline constexpr std::uint32_t kBlue = 0xFF0000;  // red is the low byte
 inline constexpr std::uint32_t kRed = 0x0000FF;
 
 struct WidgetLayout {

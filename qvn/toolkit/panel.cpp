@@ -19,12 +19,27 @@ std::string place(const Panel& panel, std::string_view member) {
   return std::string(panel.surface().name()).append(".").append(member);
 }
 
-template <class Use>
-const Member& find(const Panel& panel, std::string_view name, std::string_view what, Use&& serves) {
-  for (const Member& member : panel.members()) {
-    if (sameName(member.name, name) && serves(member)) return member;
+/// Runs what a member does. A failure names panel and member; their names are taken before, as the panel may be dropped
+/// while the member runs.
+template <class Run>
+auto named(const Panel& panel, std::string_view member, Run&& run) {
+  const std::string where = place(panel, member);
+  try {
+    return run();
+  } catch (const Failure& failure) {
+    throw failure.within(where);
   }
-  throw Failure(FailureKind::NoSuchMember, place(panel, name).append(": there is no such ").append(what));
+}
+
+/// The member of a name that serves a use: to be read, written or called.
+template <class Use>
+const Member& find(const Panel& panel, std::string_view name, Use Member::*use, std::string_view refusal) {
+  for (const Member& member : panel.members()) {
+    if (!sameName(member.name, name)) continue;
+    if (member.*use) return member;
+    throw Failure(FailureKind::NoSuchMember, place(panel, member.name).append(": ").append(refusal));
+  }
+  throw Failure(FailureKind::NoSuchMember, place(panel, name).append(": there is no member of that name"));
 }
 
 const Locale& localeOf(const Panel& panel) { return panel.surface().platform().locale(); }
@@ -32,32 +47,18 @@ const Locale& localeOf(const Panel& panel) { return panel.surface().platform().l
 }  // namespace
 
 Variant getByName(Panel& panel, std::string_view name) {
-  const Member& member =
-      find(panel, name, "property to read", [](const Member& m) { return static_cast<bool>(m.get); });
-  try {
-    return member.get(panel);
-  } catch (const Failure& failure) {
-    throw failure.within(place(panel, member.name));
-  }
+  const Member& member = find(panel, name, &Member::get, "it is no property that can be read");
+  return named(panel, member.name, [&] { return member.get(panel); });
 }
 
 void letByName(Panel& panel, std::string_view name, const Variant& value) {
-  const Member& member =
-      find(panel, name, "property to write", [](const Member& m) { return static_cast<bool>(m.let); });
-  try {
-    member.let(panel, value, localeOf(panel));
-  } catch (const Failure& failure) {
-    throw failure.within(place(panel, member.name));
-  }
+  const Member& member = find(panel, name, &Member::let, "it is no property that can be written");
+  named(panel, member.name, [&] { member.let(panel, value, localeOf(panel)); });
 }
 
 Variant callByName(Panel& panel, std::string_view name, std::span<Variant> args) {
-  const Member& member = find(panel, name, "method", [](const Member& m) { return static_cast<bool>(m.call); });
-  try {
-    return member.call(panel, args, localeOf(panel));
-  } catch (const Failure& failure) {
-    throw failure.within(place(panel, member.name));
-  }
+  const Member& member = find(panel, name, &Member::call, "it is no method");
+  return named(panel, member.name, [&] { return member.call(panel, args, localeOf(panel)); });
 }
 
 }  // namespace qvn

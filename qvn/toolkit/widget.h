@@ -96,6 +96,7 @@ class DateControl : public EditableText {
   virtual void Value(const Variant& value) = 0;
 };
 
+/// A text that only shows, without a background of its own.
 class Label : public Widget {
  public:
   virtual std::string Caption() const = 0;

@@ -46,7 +46,7 @@ TEST_P(SharedConnection, OpensWithAClientSideCursor) {
   EXPECT_EQ(Globale::DB().CursorLocation(), 3);
   EXPECT_EQ(Globale::DB().State(), 1);
   EXPECT_EQ(Globale::DB().ConnectionString(), "fake:ufficio");
-  EXPECT_EQ(driver().openings, (std::vector<std::pair<std::string, std::int32_t>>{{"fake:ufficio", 3}}));
+  EXPECT_EQ(driver().openings, (std::vector<Opened>{{"fake:ufficio", "ufficio", "", "", -1, 3}}));
 }
 
 TEST_P(SharedConnection, TheFirstStringWins) {
@@ -54,6 +54,19 @@ TEST_P(SharedConnection, TheFirstStringWins) {
   eventi().ImpostaDB("fake:altro");
   EXPECT_EQ(Globale::DB().ConnectionString(), "fake:ufficio");
   EXPECT_EQ(driver().openings.size(), 1U);
+}
+
+TEST_P(SharedConnection, ALaterStringLeavesEvenTheCursorLocationAlone) {
+  eventi().ImpostaDB("fake:ufficio");
+  Globale::DB().CursorLocation(2);
+  eventi().ImpostaDB("fake:altro");
+  EXPECT_EQ(Globale::DB().CursorLocation(), 2);
+}
+
+TEST_P(SharedConnection, IsOpenedWithWhatTheCallerGives) {
+  Globale::DB().CursorLocation(2);
+  Globale::DB().Open("fake:x", "utente", "segreto", 7);
+  EXPECT_EQ(driver().openings, (std::vector<Opened>{{"fake:x", "x", "utente", "segreto", 7, 2}}));
 }
 
 TEST_P(SharedConnection, AnUnusableStringFailsAndStaysSet) {
@@ -166,6 +179,61 @@ TEST_P(SharedConnection, HandlersMaySubscribeAndLetGoWhileTheEventIsRaised) {
   heard.clear();
   eventi().FireMancaDB();
   EXPECT_EQ(heard, "first late ");
+}
+
+TEST_P(SharedConnection, AFailingHandlerKeepsThoseAfterItFromRunning) {
+  std::string heard;
+  const Subscription first = eventi().MancaDB.subscribe([&] {
+    heard += "first ";
+    throw Failure(FailureKind::Database, "first");
+  });
+  const Subscription second = eventi().MancaDB.subscribe([&] { heard += "second "; });
+  EXPECT_FAILURE(eventi().FireMancaDB(), FailureKind::Database, "first");
+  EXPECT_EQ(heard, "first ");
+}
+
+TEST_P(SharedConnection, AHandlerMayLetItselfGo) {
+  int asked = 0;
+  Subscription host;
+  host = eventi().MancaDB.subscribe([&] {
+    ++asked;
+    host.reset();
+  });
+  eventi().FireMancaDB();
+  eventi().FireMancaDB();
+  EXPECT_EQ(asked, 1);
+}
+
+TEST_P(SharedConnection, ASubscriptionMayOutliveTheEventObject) {
+  int asked = 0;
+  const Subscription host = eventi().MancaDB.subscribe([&] { ++asked; });
+  Globale::unload();
+  eventi().FireMancaDB();
+  EXPECT_EQ(asked, 0);
+}
+
+TEST_P(SharedConnection, AHandlerThatAsksAgainWithoutAnEndFails) {
+  const Subscription host = eventi().MancaDB.subscribe([&] { company(); });  // before it gives the database
+  EXPECT_FAILURE(company(), FailureKind::InvalidCall, "without end");
+  const Subscription empty = eventi().MancaDB.subscribe({});
+  EXPECT_FAILURE(eventi().FireMancaDB(), FailureKind::InvalidCall, "without end");
+}
+
+TEST_P(SharedConnection, InstallingUnloadsWhatWasShared) {
+  eventi().ImpostaDB("fake:ufficio");
+  Globale::install(platform());
+  EXPECT_EQ(Globale::DB().State(), 0);
+}
+
+TEST_P(SharedConnection, IsNotThereWithoutAPlatform) {
+  Globale::uninstall();
+  EXPECT_FAILURE(Globale::platform(), FailureKind::InvalidCall, "no platform");
+  EXPECT_FAILURE(Globale::DB(), FailureKind::InvalidCall, "no platform");
+}
+
+TEST_P(SharedConnection, WithoutAnyDriverSaysSo) {
+  platform().drivers().clear();
+  EXPECT_FAILURE(eventi().ImpostaDB("fake:x"), FailureKind::Database, "known are: none");
 }
 
 TEST_P(SharedConnection, UnloadingStartsAnewAndKeepsThePlatform) {

@@ -1,4 +1,4 @@
-// The reserve statements, each to the letter.
+// The reserve statements.
 #include "qvn/shared/statements.h"
 
 #include <gtest/gtest.h>
@@ -15,7 +15,7 @@ struct Group {
   std::string heading;
 };
 
-TEST(ReserveStatements, StandAsTheirTablesHoldThem) {
+TEST(ReserveStatements, HoldTheirTextsTitlesAndNames) {
   const std::vector<Group> groups{
       {"Elenco TIPI RAMI ASS.",
        {"Select DESCRIZIONE, COD_RAMO From RAMI", "Select DESCRIZIONE, COD_RAMO From RAMI Where COD_RAMO Like '",

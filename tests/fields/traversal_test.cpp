@@ -2,7 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "qvn/fields/Gest_SCHEDE.h"
-#include "qvn/shared/failure.h"
+#include "tests/failure_matchers.h"
 #include "tests/fields/field_bench.h"
 
 namespace qvn::test {
@@ -40,13 +40,7 @@ TEST_P(Traversal, ReachesADateControlAndNeverLeavesOne) {
 
 TEST_P(Traversal, FailsFromACheckBoxAndDoesNothingFromAButton) {
   panel().widget("Check").SetFocus();
-  try {
-    ProssimoCampo(panel().widget("Check"));
-    FAIL() << "Enter left a check box";
-  } catch (const Failure& failure) {
-    EXPECT_EQ(failure.kind(), FailureKind::InvalidCall);
-    EXPECT_NE(std::string(failure.what()).find("Check"), std::string::npos);
-  }
+  EXPECT_FAILURE(ProssimoCampo(panel().widget("Check")), FailureKind::InvalidCall, "bench.Check");
   EXPECT_TRUE(panel().widget("Check").hasFocus());
   EXPECT_EQ(next(*this, "Button"), "Button");
 }
@@ -90,24 +84,39 @@ TEST_P(Traversal, AnOnlyCandidateKeepsTheFocusWithoutEvents) {
   EXPECT_EQ(events, 0);
 }
 
+TEST_P(Traversal, AnOnlyCandidateWithoutTheFocusGetsIt) {
+  for (const auto name : {"B", "Twin1", "Twin2", "Last"}) field(name).Enabled(false);
+  for (const auto name : {"List", "Check", "Date"}) panel().widget(name).Enabled(false);
+  ProssimoCampo(field("A"));
+  EXPECT_TRUE(field("A").hasFocus());
+}
+
+TEST_P(Traversal, GoesOnFromTheFirstIndexAndFromBeyondTheLast) {
+  EXPECT_EQ(next(*this, "Zero"), "A");
+  EXPECT_EQ(next(*this, "Beyond"), "A");
+  EXPECT_EQ(next(*this, "FarBeyond"), "A");
+}
+
+TEST_P(Traversal, CountsAFieldVisibleInAHiddenFrameAndFailsThere) {
+  panel().widget("List").Visible(false);
+  panel().frame("Other").Visible(false);
+  field("B").SetFocus();
+  EXPECT_FAILURE(ProssimoCampo(field("B")), FailureKind::InvalidCall, "Check");
+  EXPECT_TRUE(field("B").hasFocus());
+}
+
 TEST_P(Traversal, CountsAFieldEnabledInADisabledFrameAndFailsThere) {
   panel().widget("List").Enabled(false);
   panel().frame("Other").Enabled(false);
   field("B").SetFocus();
-  try {
-    ProssimoCampo(field("B"));
-    FAIL() << "the focus went into a disabled frame";
-  } catch (const Failure& failure) {
-    EXPECT_EQ(failure.kind(), FailureKind::InvalidCall);
-    EXPECT_NE(std::string(failure.what()).find("Check"), std::string::npos);
-  }
+  EXPECT_FAILURE(ProssimoCampo(field("B")), FailureKind::InvalidCall, "Check");
   EXPECT_TRUE(field("B").hasFocus());
 }
 
 TEST_P(Traversal, WithoutAnyCandidateFails) {
   for (const auto name : {"A", "B", "Twin1", "Twin2", "Last"}) field(name).Enabled(false);
   for (const auto name : {"List", "Check", "Date"}) panel().widget(name).Enabled(false);
-  EXPECT_THROW(ProssimoCampo(field("A")), Failure);
+  EXPECT_FAILURE(ProssimoCampo(field("A")), FailureKind::InvalidCall, "bench.A");
 }
 
 TEST_P(Traversal, RunsLostFocusAndGotFocusBeforeItReturns) {

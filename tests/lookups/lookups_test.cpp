@@ -1,4 +1,5 @@
 // The twelve lookups on answers laid down beforehand: what each asks, and what it makes of the answer.
+#include <cstdlib>
 #include <functional>
 #include <gtest/gtest.h>
 #include <string>
@@ -56,7 +57,7 @@ Variant of(std::string_view s) { return std::string(s); }
 std::vector<Call> calls() {
   static std::string key;
   static std::string second;
-  const auto with = [](std::string a, std::string b, auto lookup) {
+  const auto with = [](const std::string& a, const std::string& b, auto lookup) {
     return [a, b, lookup] {
       key = a;
       second = b;
@@ -199,7 +200,7 @@ std::vector<Call> calls() {
   };
 }
 
-TEST_P(Lookups, AskAndAnswerAsTheirTableSays) {
+TEST_P(Lookups, RunOneStatementAndConvertItsColumn) {
   for (const Call& call : calls()) {
     SCOPED_TRACE(call.name);
     driver().ran.clear();
@@ -368,6 +369,48 @@ TEST_P(Lookups, FireMancaDBFirstWhateverTheKey) {
   EXPECT_EQ(asked, 12);
 }
 
+TEST_P(Lookups, FireMancaDBBeforeTheQuotesGo) {
+  Globale::unload();
+  std::string key;
+  std::string seen;
+  const Subscription host = Globale::Eventi()->MancaDB.subscribe([&] { seen += key; });
+  const auto asked = [&](auto lookup) {
+    key = "'";
+    lookup();
+    EXPECT_EQ(key, "");
+  };
+  asked([&] { CercaR_ACC(key); });
+  asked([&] { CercaPRODUTTORE(key, false); });
+  asked([&] { CercaCOMPAGNIA(key); });
+  asked([&] { CercaDESC_CONTO(key, key); });
+  asked([&] { CercaSIGLA(key); });
+  EXPECT_EQ(seen, "'''''");
+}
+
+TEST_P(Lookups, QuotesAreGoneEvenWhereTheQueryFails) {
+  Globale::unload();
+  std::string key = "A'B";
+  EXPECT_FAILURE(CercaCOMPAGNIA(key), FailureKind::Database, "closed");
+  EXPECT_EQ(key, "AB");
+}
+
+TEST_P(Lookups, ANumberInAColumnReadAsTextGivesItsText) {
+  answer("Select COD_COMP From QUOTE_POLIZZE Where PROT = 1 AND DELEGATARIA <> 0", {"COD_COMP"}, {std::int32_t{7}});
+  EXPECT_EQ(CercaCOMP_DEL(1), "7");
+  answer("Select COD_COMP From QUOTE_POLIZZE Where PROT = 2 AND DELEGATARIA <> 0", {"COD_COMP"}, {1.5});
+  EXPECT_EQ(CercaCOMP_DEL(2), "1,5");
+  answer("Select COD_COMP From QUOTE_POLIZZE Where PROT = 3 AND DELEGATARIA <> 0", {"COD_COMP"}, {of("00120")});
+  EXPECT_EQ(CercaCOMP_DEL(3), "00120");
+}
+
+TEST_P(Lookups, ShowNumbersInThePlatformsLocale) {
+  setLocale({.decimalSign = '.', .groupingSign = ','});
+  answer("Select DENOMINAZIONE, PERCALT From PRODUTTORI Where COD_PROD = 'P1'", {"DENOMINAZIONE", "PERCALT"},
+         {of("Rossi"), 12.5});
+  std::string key = "P1";
+  EXPECT_EQ(CercaPRODUTTORE(key, true), "Rossi (12.5%)");
+}
+
 TEST_P(Lookups, NumbersThatTheDatabaseKeepsAsTextReadAsTheDatabaseReadsThem) {
   answer("Select R_ACC From PRODUTTORI Where COD_PROD = 'P1'", {"R_ACC"}, {of("11.5")});
   std::string key = "P1";
@@ -381,6 +424,17 @@ TEST_P(Lookups, NumbersThatTheDatabaseKeepsAsTextReadAsTheDatabaseReadsThem) {
   answer("Select DENOMINAZIONE, PERCALT From PRODUTTORI Where COD_PROD = 'P1'", {"DENOMINAZIONE", "PERCALT"},
          {of("Rossi"), of("12.5")});
   EXPECT_EQ(CercaPRODUTTORE(key, true), "Rossi (12,5%)");
+  answer("Select DENOMINAZIONE, PERCALT From PRODUTTORI Where COD_PROD = 'P1'", {"DENOMINAZIONE", "PERCALT"},
+         {of("Rossi"), of("1234567890123456.5")});
+  EXPECT_EQ(CercaPRODUTTORE(key, true), "Rossi (1234567890123456,5%)");
+  for (const auto office : {"1.250,00", "€ 1.250", "(1.250,0)"}) {
+    answer("Select R_ACC From PRODUTTORI Where COD_PROD = 'P1'", {"R_ACC"}, {of(office)});
+    EXPECT_EQ(std::abs(CercaR_ACC(key).tenThousandths()), 12'500'000) << office;
+  }
+  for (const auto neither : {"1'250", "€ 11.5", "(11.5)"}) {
+    answer("Select R_ACC From PRODUTTORI Where COD_PROD = 'P1'", {"R_ACC"}, {of(neither)});
+    EXPECT_FAILURE(CercaR_ACC(key), FailureKind::TypeMismatch, neither);
+  }
 }
 
 TEST_P(Lookups, ColumnsThatDoNotFitTheResultFail) {
@@ -407,13 +461,31 @@ TEST_P(Lookups, AreCalledByNameWithTheirArgumentsInAndOut) {
   EXPECT_FAILURE(callLookup("CercaCOMPAGNIA", null), FailureKind::InvalidUseOfNull, "CercaCOMPAGNIA");
 }
 
+TEST_P(Lookups, CalledByNameGiveBackWhatTheyWroteBeforeAFailure) {
+  answer("Select * From TIPI_IVA Where COD_IVA = 22", {"DESCRIZIONE", "IVA"}, {of("Ordinaria"), Null{}});
+  std::vector<Variant> args{std::int32_t{22}, of(""), std::int32_t{5}};
+  EXPECT_FAILURE(callLookup("CercaIVA", args), FailureKind::InvalidUseOfNull, "CercaIVA: IVA");
+  EXPECT_EQ(args, (std::vector<Variant>{of("22"), of("Ordinaria"), std::int16_t{5}}));
+}
+
 TEST_P(Lookups, AreTwelve) {
-  std::vector<std::string_view> names;
-  for (const LookupFunction& function : lookupFunctions()) names.push_back(function.name);
-  EXPECT_EQ(names,
-            (std::vector<std::string_view>{"CercaCOMPAGNIA", "CercaCOMP_DEL", "CercaCOMP_DEL_SIN", "CercaDESC_CONTO",
-                                           "CercaESPOSIZIONE", "CercaIVA", "CercaPRODUTTORE", "CercaPROD_DEL",
-                                           "CercaPROD_DEL_SOSPESO", "CercaR_ACC", "CercaSIGLA", "CercaTIPO_SK"}));
+  std::string functions;
+  for (const LookupFunction& function : lookupFunctions()) {
+    functions.append(function.name).append(": ").append(function.type).append("\n");
+  }
+  EXPECT_EQ(functions,
+            "CercaCOMPAGNIA: text\n"
+            "CercaCOMP_DEL: text\n"
+            "CercaCOMP_DEL_SIN: text\n"
+            "CercaDESC_CONTO: text\n"
+            "CercaESPOSIZIONE: text\n"
+            "CercaIVA: \n"
+            "CercaPRODUTTORE: text\n"
+            "CercaPROD_DEL: text\n"
+            "CercaPROD_DEL_SOSPESO: text\n"
+            "CercaR_ACC: currency\n"
+            "CercaSIGLA: text\n"
+            "CercaTIPO_SK: 16-bit integer\n");
 }
 
 }  // namespace

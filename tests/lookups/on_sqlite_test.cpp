@@ -75,7 +75,7 @@ class LookupsOnSqlite : public OnPlatform {
     platform().drivers().add(sqlite::driver());
   }
   ~LookupsOnSqlite() override {
-    Globale::unload();
+    Globale::uninstall();
     std::filesystem::remove_all(folder_);
   }
 

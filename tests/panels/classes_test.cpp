@@ -19,7 +19,7 @@ QVN_ON_EVERY_PLATFORM(PanelClasses);
 TEST_P(PanelClasses, AreFoundByTheirExactNames) {
   EXPECT_EQ(panelClass("ctlIVA").name, "ctlIVA");
   EXPECT_FAILURE(panelClass("ctliva"), FailureKind::NoSuchMember, "ctliva");
-  EXPECT_FAILURE(panelClass(""), FailureKind::NoSuchMember, "");
+  EXPECT_FAILURE(panelClass(""), FailureKind::NoSuchMember, "\"\"");
 }
 
 TEST_P(PanelClasses, MakePanelsThatAnswerForEachOfTheirMembers) {
@@ -47,10 +47,13 @@ TEST_P(PanelClasses, LayOutEachWidgetOnceInsideAFrameAboveIt) {
     const auto panel = type.make(PanelSite{container(), "p"});
     std::set<std::string_view> names;
     std::set<std::string_view> frames{""};
+    std::int16_t lastIndex = -1;
     for (const toolkit::WidgetLayout& row : panel->surface().layout().widgets) {
       SCOPED_TRACE(std::string(type.name) + "." + std::string(row.name));
       EXPECT_TRUE(names.insert(row.name).second);
       EXPECT_TRUE(frames.contains(row.frame));
+      EXPECT_GT(row.tabIndex, lastIndex) << "the layout stands in tab order";
+      lastIndex = row.tabIndex;
       if (row.kind == toolkit::WidgetKind::Frame) frames.insert(row.name);
       EXPECT_GT(row.place.width, 0);
       EXPECT_GT(row.place.height, 0);

@@ -215,12 +215,16 @@ TEST_P(VatCodePanel, AttivaAndDisattivaMayBeCalledAnyNumberOfTimesInAnyOrder) {
 }
 
 TEST_P(VatCodePanel, EnterGoesFromFieldToFieldAndAroundSelectingEach) {
+  panel.Codice(7);
+  panel.DESCRIZIONE("ORDINARIA");
   panel.IVA(22);
+  panel.Deb_Dec(100);
   panel.Attiva();
   for (const auto name : {"txtDescrizione", "TxtIVA", "txtDeb_Dec", "TxtCodice"}) {
     hands().type("{Enter}");
     EXPECT_EQ(focused(), name);
     EXPECT_TRUE(wholeSelected(box(name)));
+    EXPECT_GT(box(name).SelLength(), 0);
     for (const auto other : {"txtDescrizione", "TxtIVA", "txtDeb_Dec", "TxtCodice"}) {
       EXPECT_EQ(box(other).BackColor(), std::string_view(other) == name ? 16776960U : 16777215U) << other;
     }
@@ -352,16 +356,45 @@ TEST_P(VatCodePanel, IsReachedByNameInAnyCase) {
   EXPECT_EQ(getByName(panel, "IVA"), Variant(std::uint8_t{22}));
   EXPECT_EQ(callByName(panel, "ATTIVA", {}), Variant(Empty{}));
   EXPECT_EQ(focused(), "TxtCodice");
+  callByName(panel, "disattiva", {});
+  EXPECT_FALSE(surface().frame("Frame1").Enabled());
   EXPECT_FAILURE(letByName(panel, "Codice", std::int32_t{256}), FailureKind::Overflow, "iva.Codice");
   EXPECT_FAILURE(letByName(panel, "Codice", Null{}), FailureKind::InvalidUseOfNull, "iva.Codice");
   EXPECT_FAILURE(letByName(panel, "Codice", std::string("x")), FailureKind::TypeMismatch, "\"x\"");
   EXPECT_FAILURE(getByName(panel, "Deb_Dec"), FailureKind::TypeMismatch, "iva.Deb_Dec: txtDeb_Dec");
   EXPECT_FAILURE(getByName(panel, "Niente"), FailureKind::NoSuchMember, "iva.Niente");
-  EXPECT_FAILURE(getByName(panel, "Attiva"), FailureKind::NoSuchMember, "iva.Attiva");
-  EXPECT_FAILURE(callByName(panel, "IVA", {}), FailureKind::NoSuchMember, "iva.IVA");
+  EXPECT_FAILURE(letByName(panel, "Niente", Empty{}), FailureKind::NoSuchMember, "iva.Niente");
+  EXPECT_FAILURE(getByName(panel, "attiva"), FailureKind::NoSuchMember, "iva.Attiva: it is no property");
+  EXPECT_FAILURE(letByName(panel, "Attiva", Empty{}), FailureKind::NoSuchMember, "iva.Attiva: it is no property");
+  EXPECT_FAILURE(callByName(panel, "IVA", {}), FailureKind::NoSuchMember, "iva.IVA: it is no method");
   std::vector<Variant> tooMany{std::int32_t{1}};
   EXPECT_FAILURE(callByName(panel, "Attiva", tooMany), FailureKind::InvalidCall, "iva.Attiva");
   EXPECT_EQ(panel.Codice(), 7);
+}
+
+TEST_P(VatCodePanel, ByNameTakesTextsInThePlatformsLocale) {
+  EXPECT_FAILURE(letByName(panel, "Codice", std::string("7.4")), FailureKind::TypeMismatch, "7.4");
+  setLocale({.decimalSign = '.', .groupingSign = ','});
+  letByName(panel, "Codice", std::string("7.4"));
+  EXPECT_EQ(panel.Codice(), 7);
+}
+
+TEST_P(VatCodePanel, DisattivaPassesAFailureOn) {
+  panel.Attiva();
+  code.LostFocus = [] { throw Failure(FailureKind::Overflow, "on leaving"); };
+  EXPECT_FAILURE(panel.Disattiva(), FailureKind::Overflow, "on leaving");
+  EXPECT_FALSE(surface().frame("Frame1").Enabled());
+}
+
+TEST_P(VatCodePanel, AHostMayDropItInsideItsOwnWriteAndStillHearOfAFailure) {
+  auto dropped = std::make_unique<ctlIVA>(PanelSite{container(), "altra"});
+  dropped->IVA(50);
+  container().onNotice = [&](toolkit::Surface&, std::string_view) {
+    dropped.reset();
+    throw Failure(FailureKind::Database, "gone");
+  };
+  EXPECT_FAILURE(letByName(*dropped, "IVA", std::int32_t{60}), FailureKind::Database, "altra.IVA: gone");
+  EXPECT_EQ(dropped, nullptr);
 }
 
 TEST_P(VatCodePanel, GoingAwayLeavesNoFocusBehind) {
