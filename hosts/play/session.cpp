@@ -44,7 +44,7 @@ Session::Session(Toolkit& toolkit, std::span<toolkit::Driver* const> drivers) : 
 
 Session::~Session() {
   panels_.clear();
-  Globale::unload();
+  Globale::uninstall();
   toolkit_.watch(nullptr);
   toolkit_.platform().drivers().clear();
 }

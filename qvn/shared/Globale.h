@@ -8,8 +8,8 @@
 
 namespace qvn::Globale {
 
-/// Puts the library on a platform, unloading what was shared before. The platform stays the host's; it must outlive
-/// every panel, and the library must be taken off it before it goes.
+/// Puts the library on a platform, unloading what was shared before. The platform stays the host's and must outlive
+/// every panel and every use of the library; uninstall() ends that use.
 void install(toolkit::Platform& platform);
 
 /// Unloads the library and takes it off its platform.
