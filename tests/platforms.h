@@ -55,7 +55,7 @@ constexpr PlatformMaker platformOf(std::string_view name) {
           .make = []() -> std::unique_ptr<PlatformUnderTest> { return std::make_unique<UnderTest<P>>(); }};
 }
 
-/// Every platform that is tested; a new one is one more line.
+/// Every platform that is tested; a new one is one more line here, and its library one in tests/CMakeLists.txt.
 inline constexpr std::array kPlatforms{
     platformOf<memory::Platform>("memory"),
 };

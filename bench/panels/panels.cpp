@@ -4,10 +4,10 @@
 #include <string>
 #include <vector>
 
-#include "bench/panels/allocations.h"
 #include "platforms/memory/platform.h"
 #include "qvn/panels/master/ctlIVA.h"
 #include "qvn/shared/Globale.h"
+#include "tests/allocations.h"
 
 namespace qvn::bench {
 namespace {
@@ -58,13 +58,13 @@ BENCHMARK(typingADigit)->Arg(1)->Arg(10'000);
 void makingAndDroppingAPanel(benchmark::State& state) {
   Office office;
   office.panel();  // what is made once for all panels is not counted
-  const std::int64_t before = liveBytes();
-  const std::int64_t allocationsBefore = allocationCount();
-  resetPeak();
+  const std::int64_t before = test::liveBytes();
+  const std::int64_t allocationsBefore = test::allocationCount();
+  test::resetPeak();
   office.panel();
-  const std::int64_t taken = peakBytes() - before;
-  const std::int64_t allocations = allocationCount() - allocationsBefore;
-  if (liveBytes() != before) return state.SkipWithError("dropping the panel did not give back all that it took");
+  const std::int64_t taken = test::peakBytes() - before;
+  const std::int64_t allocations = test::allocationCount() - allocationsBefore;
+  if (test::liveBytes() != before) return state.SkipWithError("dropping the panel did not give back all that it took");
   for (auto _ : state) benchmark::DoNotOptimize(office.panel());
   state.counters["peak_bytes"] = static_cast<double>(taken);
   state.counters["allocations"] = static_cast<double>(allocations);

@@ -9,7 +9,7 @@ namespace qvn::memory {
 ComboBox::ComboBox(const Making& making) : Common(making, toolkit::kWhite) {
   items_.reserve(making.layout.items.size());
   for (const std::string_view item : making.layout.items) AddItem(item);
-  if (!making.layout.caption.empty()) current_ = indexOf(making.layout.caption);
+  if (!making.layout.caption.empty()) current_ = indexOf(utf8::valid(making.layout.caption));
 }
 
 void ComboBox::AddItem(std::string_view item) { items_.push_back(utf8::valid(item)); }
@@ -42,10 +42,15 @@ void ComboBox::Text(std::string_view text) {
   if (written != Text()) ListIndex(indexOf(written));
 }
 
-std::int32_t ComboBox::indexOf(std::string_view text) const {
+std::int32_t ComboBox::find(std::string_view text) const {
   for (std::int32_t i = 0; i < ListCount(); ++i) {
     if (at(i) == text) return i;
   }
+  return -1;
+}
+
+std::int32_t ComboBox::indexOf(std::string_view text) const {
+  if (const std::int32_t index = find(text); index >= 0) return index;
   throw Failure(FailureKind::InvalidCall, fullName(*this).append(" has no item \"").append(text).append("\""));
 }
 

@@ -25,6 +25,8 @@ class ComboBox final : public Common<toolkit::ComboBox> {
   std::string Text() const override { return current_ < 0 ? std::string() : List(current_); }
   void Text(std::string_view text) override;
 
+  /// The first item with that text, -1 if there is none.
+  std::int32_t find(std::string_view text) const;
   /// The first item with that text. "invalid call", quoting it, if there is none.
   std::int32_t indexOf(std::string_view text) const;
   /// The next item behind the current one, from the last on to the first, that begins with the character in either

@@ -11,12 +11,9 @@ class DateControl final : public Editable<toolkit::DateControl> {
   explicit DateControl(const Making& making);
 
   using Editable::Text;
-  /// Takes a text of the mask, with a digit or "#" in each place; any other is a "type mismatch" that quotes it.
   void Text(std::string_view text) override;
 
   Variant Value() const override;
-  /// Takes a text of the mask with all digits in place, whether or not the calendar has the day, or Null; anything else
-  /// is a "type mismatch".
   void Value(const Variant& value) override;
 
  private:

@@ -47,7 +47,6 @@ void refuseUnusable(const toolkit::Widget& widget) {
 
 template <class OnFailure>
 void Focus::move(toolkit::Widget* to, OnFailure onFailure) {
-  const Turn turn(turns_);
   const auto raise = [&](toolkit::Widget& widget, const std::function<void()>* handler, std::string_view event) {
     if (handler == nullptr) return;
     try {
@@ -57,7 +56,7 @@ void Focus::move(toolkit::Widget* to, OnFailure onFailure) {
     }
   };
   holder_ = to;
-  if (told_ != nullptr && told_ != to) {
+  if (told_ != nullptr) {
     toolkit::Widget& from = *std::exchange(told_, nullptr);
     if (watcher_ != nullptr) watcher_->lostFocus(from);
     raise(from, handlersOf(from).lost, "LostFocus");
@@ -78,6 +77,7 @@ void Focus::moveByProgram(toolkit::Widget* to) {
 }
 
 void Focus::moveByHand(toolkit::Widget* to) {
+  const Turn turn(turns_);
   move(to, [](toolkit::Widget& widget, std::string_view event, const Failure& failure) {
     surfaceOf(widget).report(widget, event, failure);
   });
@@ -85,11 +85,15 @@ void Focus::moveByHand(toolkit::Widget* to) {
 
 void Focus::give(toolkit::Widget& widget) {
   refuseUnusable(widget);
-  if (holder_ != &widget) moveByProgram(&widget);
+  if (holder_ == &widget) return;
+  const Turn turn(turns_);
+  moveByProgram(&widget);
 }
 
 void Focus::check() {
-  if (holder_ != nullptr && !canHoldFocus(*holder_)) moveByProgram(nullptr);
+  if (holder_ == nullptr || canHoldFocus(*holder_)) return;
+  const Turns::Keep keep(turns_);  // no turn, which may fail: the flag is written, and the focus must agree with it
+  moveByProgram(nullptr);
 }
 
 void Focus::giveByHand(toolkit::Widget& widget) {

@@ -22,7 +22,8 @@ class Focus {
   /// Gives the widget the focus. "invalid call", naming it, if it cannot hold it. Where handlers fail, the first
   /// failure passes on when both have run.
   void give(toolkit::Widget& widget);
-  /// Takes the focus from its holder if that can no longer hold it. A failure of its LostFocus passes on.
+  /// Takes the focus from its holder if that can no longer hold it. A failure of its LostFocus passes on, as does that
+  /// of handlers without end, which leave LostFocus no room to run.
   void check();
 
   /// The same by the operator's hand: failures of handlers go to the containers of their panels.

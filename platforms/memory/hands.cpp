@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -207,20 +208,28 @@ void Hands::click(toolkit::Widget& widget) {
   if (widget.hasFocus()) push(widget);
 }
 
-void Hands::choose(toolkit::ComboBox& list, std::int32_t index) {
-  own(list);
-  auto& box = static_cast<ComboBox&>(list);
-  if (index < 0 || index >= box.ListCount()) {
-    throw Failure(FailureKind::InvalidCall, fullName(list).append(" has no item at ").append(std::to_string(index)));
-  }
+template <class Find>
+void Hands::reachAndPick(ComboBox& list, Find find) {
   const Turn turn(platform_.turns());
   platform_.focus().giveByHand(list);
-  if (list.hasFocus() && index < box.ListCount()) pick(box, index);
+  if (!list.hasFocus()) return;
+  if (const std::int32_t index = find(); index >= 0) pick(list, index);
+}
+
+void Hands::choose(toolkit::ComboBox& list, std::int32_t index) {
+  own(list);
+  if (index < 0 || index >= list.ListCount()) {
+    throw Failure(FailureKind::InvalidCall, fullName(list).append(" has no item at ").append(std::to_string(index)));
+  }
+  reachAndPick(static_cast<ComboBox&>(list), [&] { return index < list.ListCount() ? index : -1; });
 }
 
 void Hands::choose(toolkit::ComboBox& list, std::string_view item) {
   own(list);
-  choose(list, static_cast<ComboBox&>(list).indexOf(item));
+  auto& box = static_cast<ComboBox&>(list);
+  const std::string wanted = utf8::valid(item);
+  box.indexOf(wanted);  // fails before anything has moved
+  reachAndPick(box, [&] { return box.find(wanted); });
 }
 
 }  // namespace qvn::memory

@@ -14,8 +14,6 @@ class Platform;
 class TextBox;
 class TextBuffer;
 
-/// Widgets handed to it must be of its platform; others fail with "invalid call". A click and a pick move the focus to
-/// the widget first, as with the mouse, and come to nothing if a handler of that move takes it away again.
 class Hands final : public Operator {
  public:
   explicit Hands(Platform& platform) : platform_(platform) {}
@@ -23,13 +21,9 @@ class Hands final : public Operator {
   void focus(toolkit::Widget& widget) override;
   void leave() override;
   void type(std::string_view keys) override;
-  /// "invalid call" if nothing has the focus, or something without a text.
   void caret(std::int32_t start, std::int32_t length) override;
-  /// "invalid call" as for caret(). Ends early when a handler takes the focus from the field.
   void paste(std::string_view text) override;
-  /// "invalid call" on a widget that is neither a button nor a check box.
   void click(toolkit::Widget& widget) override;
-  /// "invalid call" also if the list is disabled or hidden.
   void choose(toolkit::ComboBox& list, std::int32_t index) override;
   void choose(toolkit::ComboBox& list, std::string_view item) override;
 
@@ -45,6 +39,9 @@ class Hands final : public Operator {
   /// Raises KeyPress; what the handler leaves of the key goes into the field. False if it was refused.
   bool typeInto(toolkit::EditableText& field, char32_t character);
   void take(TextBox& box, char32_t character);
+  /// Moves the focus to the list and picks what is found once it is there; -1 is nothing.
+  template <class Find>
+  void reachAndPick(ComboBox& list, Find find);
   void pick(ComboBox& list, std::int32_t index);
   void push(toolkit::Widget& buttonOrCheckBox);
 

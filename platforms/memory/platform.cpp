@@ -14,8 +14,9 @@ std::unique_ptr<toolkit::Surface> Platform::makeSurface(const toolkit::PanelLayo
   return surface;
 }
 
-std::unique_ptr<toolkit::Form> Platform::makeForm(const toolkit::FormLayout& layout) {
-  throw Failure(FailureKind::InvalidCall, std::string(layout.name).append(": the memory platform has no forms"));
+std::unique_ptr<toolkit::Form> Platform::makeForm(const toolkit::FormLayout& layout,
+                                                  toolkit::Container& /*container*/) {
+  throw Failure(FailureKind::InvalidCall, std::string(layout.inside.name).append(": the memory platform has no forms"));
 }
 
 void Platform::beep() {

@@ -32,7 +32,7 @@ class Platform final : public toolkit::Platform {
   /// made.
   std::unique_ptr<toolkit::Surface> makeSurface(const toolkit::PanelLayout& layout, toolkit::Container& container,
                                                 std::string name) override;
-  std::unique_ptr<toolkit::Form> makeForm(const toolkit::FormLayout& layout) override;
+  std::unique_ptr<toolkit::Form> makeForm(const toolkit::FormLayout& layout, toolkit::Container& container) override;
   toolkit::Widget* focused() const override { return focus_.holder(); }
 
   const Locale& locale() const override { return locale_; }

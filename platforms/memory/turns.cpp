@@ -9,9 +9,9 @@ namespace {
 constexpr int kDeepest = 400;  // far beyond what panels nest, far below what the stack holds
 }
 
-void Turns::begin() {
-  if (depth_ == kDeepest) throw Failure(FailureKind::InvalidCall, "handlers call each other without end");
-  ++depth_;
+Turns& Turns::withRoom() {
+  if (depth_ >= kDeepest) throw Failure(FailureKind::InvalidCall, "handlers call each other without end");
+  return *this;
 }
 
 void Turns::end() noexcept {

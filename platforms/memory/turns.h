@@ -9,23 +9,32 @@ class Surface;
 /// its widgets theirs, until the outermost has returned; the handler that dropped it still stands on them.
 class Turns {
  public:
-  /// One handler or act, for as long as it runs. Fails with "invalid call" if handlers call each other without end.
-  class Turn {
+  /// Keeps the memory of what is dropped, for as long as it lives.
+  class Keep {
    public:
-    explicit Turn(Turns& turns) : turns_(turns) { turns_.begin(); }
-    ~Turn() { turns_.end(); }
-    Turn(const Turn&) = delete;
-    Turn& operator=(const Turn&) = delete;
+    explicit Keep(Turns& turns) : turns_(turns) { ++turns_.depth_; }
+    ~Keep() { turns_.end(); }
+    Keep(const Keep&) = delete;
+    Keep& operator=(const Keep&) = delete;
 
    private:
     Turns& turns_;
+  };
+
+  /// One handler or act, for as long as it runs. Fails with "invalid call" if handlers call each other without end.
+  class Turn {
+   public:
+    explicit Turn(Turns& turns) : keep_(turns.withRoom()) {}
+
+   private:
+    Keep keep_;
   };
 
   /// Destroys the surface, now or when the outermost turn has ended.
   void drop(Surface& surface) noexcept;
 
  private:
-  void begin();
+  Turns& withRoom();
   void end() noexcept;
 
   int depth_ = 0;

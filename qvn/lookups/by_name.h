@@ -10,6 +10,7 @@
 
 namespace qvn {
 
+/// One lookup; its arguments are in/out.
 struct LookupFunction {
   std::string_view name;
   std::string_view type;  ///< of the result; empty for none

@@ -44,15 +44,22 @@ Query::Query(std::initializer_list<std::string_view> pieces, Cursor cursor) {
   rows_.Open(concatenation(pieces), Globale::DB(), cursor.type, cursor.lock, toolkit::adOptionUnspecified);
 }
 
-template <class Target>
-Target Query::as(std::string_view column) const {
+template <class Convert>
+auto Query::converted(std::string_view column, Convert&& convert) const {
   const Variant stored = value(column);
   try {
-    const bool asNumber = !std::is_same_v<Target, std::string>;
-    return qvn::as<Target>(stored, asNumber && isInDatabaseForm(stored) ? kDatabaseForm : officeForm());
+    return convert(stored);
   } catch (const Failure& failure) {
     throw failure.within(column);
   }
+}
+
+template <class Target>
+Target Query::as(std::string_view column) const {
+  return converted(column, [](const Variant& stored) {
+    const bool asNumber = !std::is_same_v<Target, std::string>;
+    return qvn::as<Target>(stored, asNumber && isInDatabaseForm(stored) ? kDatabaseForm : officeForm());
+  });
 }
 
 template std::string Query::as<std::string>(std::string_view column) const;
@@ -60,11 +67,10 @@ template Currency Query::as<Currency>(std::string_view column) const;
 template std::int16_t Query::as<std::int16_t>(std::string_view column) const;
 
 std::string Query::generalText(std::string_view column) const {
-  const Variant stored = value(column);
-  if (isInDatabaseForm(stored)) {
+  return converted(column, [](const Variant& stored) {
+    if (!isInDatabaseForm(stored)) return formatValue(stored, Pattern::General, officeForm());
     return format(qvn::as<Decimal>(stored, kDatabaseForm), Pattern::General, officeForm()).str();
-  }
-  return formatValue(stored, Pattern::General, officeForm());
+  });
 }
 
 }  // namespace qvn::lookups

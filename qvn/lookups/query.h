@@ -39,10 +39,15 @@ class Query {
   template <class Target>
   Target as(std::string_view column) const;
 
-  /// The value under no pattern: a number's general text in the office's form. A Null gives the empty text.
+  /// The value under no pattern: a number's general text in the office's form. A Null gives the empty text. A number
+  /// that has no text fails as conversions do, naming the column.
   std::string generalText(std::string_view column) const;
 
  private:
+  /// What a conversion makes of a column's value; its failures name the column.
+  template <class Convert>
+  auto converted(std::string_view column, Convert&& convert) const;
+
   toolkit::Recordset rows_;
 };
 

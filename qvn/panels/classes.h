@@ -9,6 +9,7 @@
 
 namespace qvn {
 
+/// One class of panels: how to make one, and its public members, which live as long as the program.
 struct PanelClass {
   std::string_view name;
   std::unique_ptr<Panel> (*make)(const PanelSite& site);

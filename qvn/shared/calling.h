@@ -15,21 +15,37 @@
 
 namespace qvn {
 
-/// A type as member tables name it.
+/// A type as member tables name it; void has no name.
 template <class T>
 constexpr std::string_view typeName() {
   using Plain = std::remove_cvref_t<T>;
-  if constexpr (std::is_same_v<Plain, bool>) return "boolean";
-  if constexpr (std::is_same_v<Plain, std::uint8_t>) return "8-bit unsigned integer";
-  if constexpr (std::is_same_v<Plain, std::int16_t>) return "16-bit integer";
-  if constexpr (std::is_same_v<Plain, std::int32_t>) return "32-bit integer";
-  if constexpr (std::is_same_v<Plain, double>) return "double";
-  if constexpr (std::is_same_v<Plain, Currency>) return "currency";
-  if constexpr (std::is_same_v<Plain, Decimal>) return "decimal";
-  if constexpr (std::is_same_v<Plain, Variant>) return "variant";
-  if constexpr (std::is_same_v<Plain, CurrencyArray>) return "array of currency";
-  if constexpr (std::is_same_v<Plain, std::string> || std::is_same_v<Plain, std::string_view>) return "text";
-  return {};
+  if constexpr (std::is_void_v<Plain>) {
+    return {};
+  } else if constexpr (std::is_same_v<Plain, bool>) {
+    return "boolean";
+  } else if constexpr (std::is_same_v<Plain, std::uint8_t>) {
+    return "8-bit unsigned integer";
+  } else if constexpr (std::is_same_v<Plain, std::int16_t>) {
+    return "16-bit integer";
+  } else if constexpr (std::is_same_v<Plain, std::int32_t>) {
+    return "32-bit integer";
+  } else if constexpr (std::is_same_v<Plain, double>) {
+    return "double";
+  } else if constexpr (std::is_same_v<Plain, Currency>) {
+    return "currency";
+  } else if constexpr (std::is_same_v<Plain, Decimal>) {
+    return "decimal";
+  } else if constexpr (std::is_same_v<Plain, Date>) {
+    return "date";
+  } else if constexpr (std::is_same_v<Plain, Variant>) {
+    return "variant";
+  } else if constexpr (std::is_same_v<Plain, CurrencyArray>) {
+    return "array of currency";
+  } else if constexpr (std::is_same_v<Plain, std::string> || std::is_same_v<Plain, std::string_view>) {
+    return "text";
+  } else {
+    static_assert(!sizeof(Plain), "members have no such type");
+  }
 }
 
 /// What a variant is converted to before it is handed to a parameter of type T.
@@ -37,17 +53,29 @@ template <class T>
 using Held =
     std::conditional_t<std::is_same_v<std::remove_cvref_t<T>, std::string_view>, std::string, std::remove_cvref_t<T>>;
 
+/// An argument as the type that it is held in. Its failures say which of the arguments it is, from 1.
+template <class Target>
+Target argument(std::span<const Variant> args, std::size_t index, const Locale& locale) {
+  try {
+    return as<Target>(args[index], locale);
+  } catch (const Failure& failure) {
+    throw failure.within("argument " + std::to_string(index + 1));
+  }
+}
+
 /// Calls a function with as many variants as it has parameters, each converted to its parameter's type. Parameters that
 /// are mutable references come back into the variants, whether the call succeeds or fails half-way. Fails with
 /// "invalid call" on another count of arguments and as as<>() does on one that does not convert.
 template <class Result, class... Parameters, class Function>
 Variant callWith(std::span<Variant> args, const Locale& locale, Function&& function) {
-  if (args.size() != sizeof...(Parameters)) {
-    throw Failure(FailureKind::InvalidCall, "the arguments it takes are " + std::to_string(sizeof...(Parameters)) +
-                                                ", given were " + std::to_string(args.size()));
+  constexpr std::size_t kCount = sizeof...(Parameters);
+  if (args.size() != kCount) {
+    throw Failure(FailureKind::InvalidCall, "takes " + std::to_string(kCount) +
+                                                (kCount == 1 ? " argument, given " : " arguments, given ") +
+                                                std::to_string(args.size()));
   }
   return [&]<std::size_t... I>(std::index_sequence<I...>)->Variant {
-    std::tuple<Held<Parameters>...> held{as<Held<Parameters>>(args[I], locale)...};
+    std::tuple<Held<Parameters>...> held{argument<Held<Parameters>>(args, I, locale)...};
     struct GiveBack {
       std::span<Variant> args;
       std::tuple<Held<Parameters>...>& held;

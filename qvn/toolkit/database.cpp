@@ -30,7 +30,10 @@ void Connection::Open(std::string_view connectionString, std::string_view user, 
 
 std::unique_ptr<Rows> Connection::run(const Statement& statement) {
   if (!session_) {
-    throw Failure(FailureKind::Database, std::string("the connection is closed; not run: ").append(statement.sql));
+    constexpr std::size_t kQuoted = 1000;
+    std::string message = "the connection is closed; not run: ";
+    message.append(statement.sql.substr(0, kQuoted)).append(statement.sql.size() > kQuoted ? "…" : "");
+    throw Failure(FailureKind::Database, message);
   }
   return session_->run(statement);
 }

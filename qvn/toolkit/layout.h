@@ -1,4 +1,4 @@
-// What a panel looks like, as one row of data a widget. Rows stand in tab order and live as long as the program.
+// What a panel looks like, as one row of data a widget. Panels lay their rows down in tab order.
 #pragma once
 
 #include <cstdint>
@@ -7,6 +7,7 @@
 
 namespace qvn::toolkit {
 
+/// What a widget is; the class of the same name in widget.h, list_view.h or data_grid.h.
 enum class WidgetKind : std::uint8_t {
   TextBox,
   Label,
@@ -34,11 +35,19 @@ enum class Align : std::uint8_t { Left, Right, Center };
 
 inline constexpr std::uint32_t kBlack = 0x000000;
 inline constexpr std::uint32_t kWhite = 0xFFFFFF;
-inline constexpr std::uint32_t kFaceGray =
-    0xC0C0C0;  ///< the face of frames and buttons; what a label reads back, though it shows no back of its own
+/// The face of frames and buttons; what a label reads back, though it shows no back of its own.
+inline constexpr std::uint32_t kFaceGray = 0xC0C0C0;
 inline constexpr std::uint32_t kBlue = 0xFF0000;  // red is the low byte
 inline constexpr std::uint32_t kRed = 0x0000FF;
 
+/// One column of a grid.
+struct GridColumn {
+  std::string_view caption;
+  std::string_view dataField;
+  std::string_view numberFormat = {};  ///< a pattern's name, empty for none
+};
+
+/// One widget. The row and what it points to live as long as the surface made from it.
 struct WidgetLayout {
   std::string_view name;
   WidgetKind kind = WidgetKind::TextBox;
@@ -56,23 +65,22 @@ struct WidgetLayout {
   std::span<const std::string_view> items = {};  ///< the items of a closed list
   bool defaultButton = false;                    ///< pressed by Enter anywhere on its form
   bool cancelButton = false;                     ///< pressed by Escape anywhere on its form
-};
-
-/// A form as it is laid out: its caption, its inner size in twips and its widgets.
-struct FormLayout {
-  std::string_view name;
-  std::string_view caption = {};
-  std::int32_t width = 0;
-  std::int32_t height = 0;
-  std::span<const WidgetLayout> widgets = {};
+  std::span<const GridColumn> columns = {};      ///< the columns of a grid
+  std::string_view dataSource = {};              ///< the name of the data control that a grid shows, a row above
 };
 
 /// A panel as it is laid out: its size in twips and its widgets.
 struct PanelLayout {
-  std::string_view name;  ///< the panel's class
+  std::string_view name;  ///< the panel's class, or the form's name
   std::int32_t width = 0;
   std::int32_t height = 0;
   std::span<const WidgetLayout> widgets = {};
+};
+
+/// A form as it is laid out. Its inside bears the form's name and has the size within the window's frame.
+struct FormLayout {
+  std::string_view caption;
+  PanelLayout inside;
 };
 
 }  // namespace qvn::toolkit

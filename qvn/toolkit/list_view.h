@@ -12,16 +12,20 @@
 namespace qvn::toolkit {
 
 /// Rows in columns, kept in the order of a sort column and direction as text without regard to case; rows that compare
-/// equal stay in the order they came.
+/// equal stay in the order they came. It takes the focus. The selected row stays selected when the order changes.
 class ListView : public Widget {
  public:
   virtual void clearColumns() = 0;
   /// Width in twips.
   virtual void addColumn(std::string_view caption, std::int32_t width) = 0;
   virtual std::int32_t columnCount() const = 0;
+  /// A column's caption and width in twips, by its place from 0. "subscript out of range" outside.
+  virtual std::string columnCaption(std::int32_t column) const = 0;
+  virtual std::int32_t columnWidth(std::int32_t column) const = 0;
 
+  /// Removes all rows; nothing is selected then.
   virtual void clearRows() = 0;
-  /// Adds a row with one text a column: the row's text, then its sub-items.
+  /// Adds a row with one text a column: the row's text, then its sub-items. "invalid call" on another count of texts.
   virtual void addRow(std::span<const std::string_view> texts) = 0;
   virtual std::int32_t rowCount() const = 0;
   /// A text by row in the order shown, and column, both from 0. "subscript out of range" outside.
@@ -29,11 +33,14 @@ class ListView : public Widget {
 
   /// The selected row in the order shown, -1 for none.
   virtual std::int32_t selected() const = 0;
+  /// -1 selects nothing. "subscript out of range" on a row that is not there.
   virtual void select(std::int32_t row) = 0;
 
-  virtual std::int16_t SortKey() const = 0;  ///< column from 0
+  /// The sort column, from 0, and 0 to begin with. "subscript out of range" on one that is not there.
+  virtual std::int16_t SortKey() const = 0;
   virtual void SortKey(std::int16_t column) = 0;
-  virtual std::int16_t SortOrder() const = 0;  ///< 0 ascending, 1 descending
+  /// The sort direction: 0 ascending, to begin with, 1 descending. "invalid call" on another value.
+  virtual std::int16_t SortOrder() const = 0;
   virtual void SortOrder(std::int16_t order) = 0;
 
   std::function<void(std::int16_t column)> ColumnClick;  ///< column from 1

@@ -23,6 +23,7 @@ struct PanelSite {
 
 class Panel;
 
+/// What can be done with a member.
 enum class MemberKind : std::uint8_t { Get, Let, GetLet, Method };
 
 /// The kind in words: "get", "let", "get/let", "method".
@@ -39,6 +40,10 @@ struct Member {
 };
 
 /// A panel as hosts and tools see it that do not know its class.
+///
+/// A host may drop a panel at any moment, from inside PropertyChanged as well. Its widgets then live until the key or
+/// write at hand is done, but the panel does not: a handler that goes on after an announcement must have hold of the
+/// widgets alone, not of the panel.
 class Panel {
  public:
   virtual ~Panel() = default;

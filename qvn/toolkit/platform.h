@@ -25,10 +25,13 @@ struct ScreenSize {
   std::int32_t height = 0;
 };
 
-/// What a platform can do beyond the fields of a panel; what it lacks fails with "invalid call".
+/// What a platform can do beyond the plain fields of a panel.
 struct Capabilities {
-  bool dateTyping = false;  ///< digits can be typed over the mask of a date field
-  bool modalForms = false;  ///< forms can be made and shown
+  /// Digits can be typed over the mask of a date field. Without, keys leave a date as it is.
+  bool dateTyping = false;
+  /// Forms can be made and shown, and list views, grids and data controls laid out. Without, making one fails with
+  /// "invalid call".
+  bool modalForms = false;
 };
 
 /// One toolkit. Made by the host, which owns it; it must outlive every panel made on it and the library's use of it.
@@ -39,15 +42,20 @@ class Platform {
   virtual std::string_view name() const = 0;
   virtual Capabilities capabilities() const = 0;
 
-  /// A new panel's widgets, as laid out. The layout must live as long as the surface; the container too.
+  /// A new panel's widgets, as laid out, under the host's name of the panel. Layout and container must live as long as
+  /// the surface. Fails with "invalid call", naming panel and widget, on a widget that the platform does not have, on a
+  /// frame that no row above has made, and on a closed list that starts with a text that is not among its items; with
+  /// "type mismatch" on a date control that starts with a text that is none.
   virtual std::unique_ptr<Surface> makeSurface(const PanelLayout& layout, Container& container, std::string name) = 0;
 
-  /// A form, not loaded, as laid out. The layout must live as long as the form. "invalid call" on a platform without.
-  virtual std::unique_ptr<Form> makeForm(const FormLayout& layout) = 0;
+  /// A form, not loaded, as laid out. What its handlers fail with under the operator's hand goes to the container.
+  /// Layout and container must live as long as the form. "invalid call" on a platform without forms.
+  virtual std::unique_ptr<Form> makeForm(const FormLayout& layout, Container& container) = 0;
 
   /// The widget that holds the focus among all panels, or null.
   virtual Widget* focused() const = 0;
 
+  /// The platform's own, for as long as it lives.
   virtual const Locale& locale() const = 0;
   virtual const Clock& clock() const = 0;
   virtual ScreenSize screen() const = 0;

@@ -15,7 +15,10 @@ class DataGrid;
 class ListView;
 class Platform;
 
-/// Made by a platform from a panel's layout, owned by the panel. Its widgets go with it.
+/// Made by a platform from a panel's layout, owned by the panel. Its widgets go with it, and the focus from them, and
+/// nothing more is raised on it. It may be dropped inside any handler, its own widgets' among them: they keep their
+/// memory until the outermost handler has returned. So a handler that has announced a change may still touch its
+/// widgets, and never the panel's object, which the host may have dropped.
 class Surface {
  public:
   virtual ~Surface() = default;

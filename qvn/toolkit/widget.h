@@ -1,8 +1,9 @@
 // The widgets that a panel is made of, as the library asks them of a platform.
 //
-// Texts are UTF-8; lengths and positions count characters. Colours are 24-bit numbers with red in the low byte. Places
-// are in twips (1440 to the inch), relative to the frame that surrounds the widget. A platform owns its widgets and
-// they live as long as their surface; handlers are set once by the panel that wires the widget, and may be empty.
+// Texts are UTF-8, and bytes of a written text that are none become U+FFFD; lengths and positions count characters.
+// Colours are 24-bit numbers with red in the low byte. Places are in twips (1440 to the inch), relative to the frame
+// that surrounds the widget. A platform owns its widgets and they live as long as their surface, which a handler may
+// drop (surface.h); handlers are set once by the panel that wires the widget, and may be empty.
 #pragma once
 
 #include <cstdint>
@@ -26,7 +27,7 @@ class Widget {
   Widget(const Widget&) = delete;
   Widget& operator=(const Widget&) = delete;
 
-  /// The row of the panel's layout that the widget was made from; it lives as long as the program.
+  /// The row of the panel's layout that the widget was made from.
   virtual const WidgetLayout& layout() const = 0;
   /// The surface that the widget lies on, across all frames.
   virtual Surface& owner() const = 0;
@@ -48,6 +49,8 @@ class Widget {
   virtual bool Visible() const = 0;
   virtual void Visible(bool visible) = 0;
 
+  /// White to begin with for text boxes, closed lists and date fields, the gray of faces for all others; ForeColor is
+  /// the layout's. Switching a widget off changes neither.
   virtual std::uint32_t BackColor() const = 0;
   virtual void BackColor(std::uint32_t colour) = 0;
   virtual std::uint32_t ForeColor() const = 0;
@@ -87,12 +90,15 @@ class EditableText : public Widget {
 /// A single-line input field.
 class TextBox : public EditableText {};
 
-/// A masked field of ten characters, "##/##/####" while it is blank.
+/// A masked field of ten characters, "##/##/####" while it is blank. Text takes a text of the mask, with a digit or "#"
+/// in each place; any other fails with "type mismatch", quoting it, and changes nothing.
 class DateControl : public EditableText {
  public:
   /// Null while blank; the text "dd/mm/yyyy" while it shows a complete valid date; otherwise what is no date.
   virtual Variant Value() const = 0;
-  /// Takes a text in the form "dd/mm/yyyy", or Null, which blanks the field. Raises Change if the shown text changes.
+  /// Takes a text in the form "dd/mm/yyyy" with all its digits, whether or not the calendar has the day, or Null, which
+  /// blanks the field; anything else, other kinds of value among them, fails with "type mismatch". Raises Change if the
+  /// shown text changes.
   virtual void Value(const Variant& value) = 0;
 };
 
@@ -127,8 +133,8 @@ class ComboBox : public Widget {
 
   /// The current item's text, empty for none.
   virtual std::string Text() const = 0;
-  /// Makes the item with that text current and raises Click; does nothing if it is shown already. "invalid call" if no
-  /// item has the text.
+  /// Makes the first item with that text, exact in case, current and raises Click; does nothing if it is shown already,
+  /// as the empty text is while no item is current. "invalid call" if no item has the text, the empty one included.
   virtual void Text(std::string_view text) = 0;
 
   std::function<void()> Click;

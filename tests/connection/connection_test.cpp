@@ -253,6 +253,17 @@ TEST_P(SharedConnection, OpeningAnOpenConnectionFails) {
   EXPECT_EQ(Globale::DB().ConnectionString(), "fake:ufficio");
 }
 
+TEST_P(SharedConnection, AClosedOneQuotesTheBeginningOfALongStatement) {
+  const std::string key(100'000, 'X');
+  try {
+    company(key);
+    FAIL() << "a closed connection ran a statement";
+  } catch (const Failure& failure) {
+    EXPECT_LT(std::string_view(failure.what()).size(), 1100U);
+    EXPECT_TRUE(std::string_view(failure.what()).ends_with("XXX…"));
+  }
+}
+
 TEST_P(SharedConnection, ClosingAClosedOneDoesNothing) {
   Globale::DB().Close();
   EXPECT_EQ(Globale::DB().State(), 0);

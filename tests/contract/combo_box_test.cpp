@@ -162,6 +162,7 @@ TEST_P(ComboBox, TheOperatorCannotPickWhatIsNotThere) {
   EXPECT_FAILURE(hands().choose(list(), -1), FailureKind::InvalidCall, "List");
   EXPECT_FAILURE(hands().choose(list(), "uno"), FailureKind::InvalidCall, "uno");
   EXPECT_EQ(list().ListIndex(), -1);
+  EXPECT_THAT(heard, IsEmpty());
 }
 
 TEST_P(ComboBox, TheOperatorCannotPickFromAListThatIsOff) {
@@ -186,6 +187,40 @@ TEST_P(ComboBox, APickComesToNothingWhereLostFocusTakesTheFocusBack) {
   hands().choose(list(), 1);
   EXPECT_EQ(list().ListIndex(), -1);
   EXPECT_TRUE(box("A").hasFocus());
+}
+
+TEST_P(ComboBox, APickByTextFindsItsItemWhereLostFocusRemovesAnother) {
+  box("A").SetFocus();
+  box("A").LostFocus = [this] { list().RemoveItem(0); };
+  hands().choose(list(), "Due");
+  EXPECT_EQ(list().Text(), "Due");
+}
+
+TEST_P(ComboBox, APickComesToNothingWhereGotFocusRemovesItsItem) {
+  list().GotFocus = [this] { list().Clear(); };
+  list().Click = hears("click");
+  hands().choose(list(), 1);
+  EXPECT_EQ(list().ListCount(), 0);
+  hands().leave();
+  list().AddItem("Due");
+  hands().choose(list(), "Due");
+  EXPECT_EQ(list().ListCount(), 0);
+  EXPECT_EQ(list().ListIndex(), -1);
+  EXPECT_THAT(heard, ElementsAre("got List", "lost List", "got List"));
+  EXPECT_THAT(container().failures, IsEmpty());
+}
+
+TEST_P(ComboBox, BytesThatAreNoCharacterAreReplaced) {
+  list().AddItem("a\xFFz");
+  EXPECT_EQ(list().List(4), "a\uFFFDz");
+  list().Text("a\xFFz");
+  EXPECT_EQ(list().ListIndex(), 4);
+  list().Click = hears("click");
+  list().Text("a\xFFz");
+  EXPECT_THAT(heard, IsEmpty());
+  list().ListIndex(0);
+  hands().choose(list(), "a\xFFz");
+  EXPECT_EQ(list().ListIndex(), 4);
 }
 
 TEST_P(ComboBox, UpAndDownPickTheItemsBeside) {

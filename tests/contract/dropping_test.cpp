@@ -69,8 +69,13 @@ TEST_P(Dropping, InChangeEndsAPaste) {
 }
 
 TEST_P(Dropping, InChangeOfAProgramsWrite) {
-  box().Change = [this] { dropPanel(); };
+  box("Free").SetFocus();
+  box().Change = [this] {
+    heard.emplace_back("Change");
+    dropPanel();
+  };
   box().Text("12");
+  EXPECT_THAT(heard, testing::Contains("Change"));
   EXPECT_EQ(platform().focused(), nullptr);
 }
 
@@ -149,8 +154,13 @@ TEST_P(Dropping, InClickOfAList) {
 }
 
 TEST_P(Dropping, InChangeOfALabel) {
-  label().Change = [this] { dropPanel(); };
+  box("Free").SetFocus();
+  label().Change = [this] {
+    heard.emplace_back("Change");
+    dropPanel();
+  };
   label().Caption("nuova");
+  EXPECT_THAT(heard, testing::Contains("Change"));
   EXPECT_EQ(platform().focused(), nullptr);
 }
 

@@ -190,6 +190,32 @@ TEST_P(Focus, LostFocusMaySendItElsewhere) {
   EXPECT_THAT(heard, ElementsAre("lost A", "A.LostFocus", "got Free", "Free.GotFocus"));
 }
 
+TEST_P(Focus, LostFocusMaySendItElsewhereAndOnToTheNewHolder) {
+  box("A").SetFocus();
+  heard.clear();
+  box("A").LostFocus = [this] {
+    heard.emplace_back("A.LostFocus");
+    box("Free").SetFocus();
+    box("B").SetFocus();
+  };
+  box("B").SetFocus();
+  EXPECT_TRUE(box("B").hasFocus());
+  EXPECT_THAT(heard, ElementsAre("lost A", "A.LostFocus", "got Free", "Free.GotFocus", "lost Free", "Free.LostFocus",
+                                 "got B", "B.GotFocus"));
+}
+
+TEST_P(Focus, LostFocusMayTakeItBackFromLeaving) {
+  box("A").SetFocus();
+  heard.clear();
+  box("A").LostFocus = [this] {
+    heard.emplace_back("A.LostFocus");
+    box("A").SetFocus();
+  };
+  hands().leave();
+  EXPECT_TRUE(box("A").hasFocus());
+  EXPECT_THAT(heard, ElementsAre("lost A", "A.LostFocus", "got A", "A.GotFocus"));
+}
+
 TEST_P(Focus, GotFocusMaySendItOn) {
   box("A").SetFocus();
   heard.clear();
@@ -253,6 +279,24 @@ TEST_P(Focus, ShiftTabGoesBack) {
     way.emplace_back(platform().focused()->Name());
   }
   EXPECT_THAT(way, ElementsAre("Twin2", "Twin1", "Date", "Button", "Check", "List", "B", "A", "Free"));
+}
+
+TEST_P(Focus, TabTakesManyWidgetsOfOneIndexInTheOrderOfTheirMaking) {
+  static constexpr std::string_view kNames = "zyxwvutsrqponmlkjihgfedcba";
+  static constexpr auto kRows = [] {
+    std::array<toolkit::WidgetLayout, kNames.size()> rows{};
+    for (std::size_t i = 0; i < rows.size(); ++i) rows[i] = {.name = kNames.substr(i, 1), .tabIndex = 7};
+    return rows;
+  }();
+  static constexpr toolkit::PanelLayout kLayout{.name = "Many", .widgets = kRows};
+  const auto many = platform().makeSurface(kLayout, container(), "many");
+  many->textBox("z").SetFocus();
+  std::string way = "z";
+  for (std::size_t i = 1; i < kNames.size(); ++i) {
+    hands().type("{Tab}");
+    way += platform().focused()->Name();
+  }
+  EXPECT_EQ(way, kNames);
 }
 
 TEST_P(Focus, TabStaysWithinThePanel) {

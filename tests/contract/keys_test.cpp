@@ -327,6 +327,15 @@ TEST_P(Keys, AKeyFollowsTheFocusThatTheKeyBeforeMoved) {
   EXPECT_EQ(box("B").Text(), "2");
 }
 
+TEST_P(Keys, AKeyThatItsKeyPressLeavesGoesIntoTheOldFieldThoughTheFocusMoves) {
+  box("A").SetFocus();
+  box("A").KeyPress = [this](std::int16_t&) { box("B").SetFocus(); };
+  hands().type("1");
+  EXPECT_EQ(box("A").Text(), "1");
+  EXPECT_EQ(box("B").Text(), "già scritto");
+  EXPECT_TRUE(box("B").hasFocus());
+}
+
 TEST_P(Keys, TypingFailsOnceAHandlerHasTakenTheFocusAway) {
   box().SetFocus();
   box().Change = [this] { box().Enabled(false); };

@@ -57,5 +57,10 @@ TEST_P(Frame, ShowsItsCaption) {
   EXPECT_EQ(outer().Caption(), "Dati & altro");
 }
 
+TEST_P(Frame, BytesThatAreNoCharacterAreReplaced) {
+  outer().Caption("a\xFFz");
+  EXPECT_EQ(outer().Caption(), "a\uFFFDz");
+}
+
 }  // namespace
 }  // namespace qvn::test

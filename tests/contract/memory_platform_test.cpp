@@ -30,6 +30,46 @@ TEST_F(MemoryPlatform, ChangesThatNeverSettleFail) {
   EXPECT_EQ(a.Text(), "ancora");
 }
 
+TEST_F(MemoryPlatform, AFieldSwitchedOffByHandlersWithoutEndHasLostTheFocus) {
+  a.SetFocus();
+  a.LostFocus = [] {};
+  int switchedOff = 0;
+  a.Change = [&] {
+    try {
+      a.Text(a.Text() + "x");
+    } catch (const Failure&) {
+      EXPECT_FAILURE(a.Enabled(false), FailureKind::InvalidCall, "without end");
+      EXPECT_FALSE(a.Enabled());
+      EXPECT_FALSE(a.hasFocus());
+      ++switchedOff;
+    }
+  };
+  a.Text("x");
+  EXPECT_EQ(switchedOff, 1);
+  a.Enabled(true);
+  a.SetFocus();
+  EXPECT_TRUE(a.hasFocus());
+}
+
+TEST_F(MemoryPlatform, AWatcherMayDropThePanelThatItHearsOf) {
+  struct Dropper final : Watcher {
+    explicit Dropper(std::unique_ptr<toolkit::Surface>& dropped) : panel(dropped) {}
+    void lostFocus(const toolkit::Widget&) override { panel.reset(); }
+    void gotFocus(const toolkit::Widget&) override {}
+    void beeped() override {}
+    std::unique_ptr<toolkit::Surface>& panel;
+  } dropper(panel);
+  bool told = false;
+  a.SetFocus();
+  a.LostFocus = [&] { told = true; };
+  platform.watch(&dropper);
+  a.Enabled(false);
+  platform.watch(nullptr);
+  EXPECT_EQ(panel, nullptr);
+  EXPECT_EQ(platform.focused(), nullptr);
+  EXPECT_FALSE(told);
+}
+
 TEST_F(MemoryPlatform, FieldsThatSendTheFocusToEachOtherFail) {
   a.GotFocus = [this] { b.SetFocus(); };
   b.GotFocus = [this] { a.SetFocus(); };

@@ -36,6 +36,27 @@ TEST_P(OperatorsHands, DoNotReachWidgetsOfAnotherPlatform) {
   EXPECT_EQ(elsewhere->platform().focused(), nullptr);
 }
 
+TEST_P(OperatorsHands, MoveNothingOnAPanelThatIsOff) {
+  check().Click = hears("check");
+  button().Click = hears("button");
+  list().Click = hears("list");
+  const auto findNothing = [this](const std::function<void(bool)>& set) {
+    set(false);
+    EXPECT_FAILURE(hands().focus(box("Free")), FailureKind::InvalidCall, "panel.Free");
+    EXPECT_FAILURE(hands().choose(list(), 1), FailureKind::InvalidCall, "panel.List");
+    EXPECT_FAILURE(hands().choose(list(), "Due"), FailureKind::InvalidCall, "panel.List");
+    hands().click(check());
+    hands().click(button());
+    EXPECT_EQ(platform().focused(), nullptr);
+    EXPECT_EQ(list().ListIndex(), -1);
+    EXPECT_EQ(check().Value(), 0);
+    EXPECT_THAT(heard, IsEmpty());
+    set(true);
+  };
+  findNothing([this](bool on) { panel().Enabled(on); });
+  findNothing([this](bool on) { panel().Visible(on); });
+}
+
 TEST_P(OperatorsHands, MayBeUsedInsideAHandler) {
   box("B").Text("");
   box("A").SetFocus();
@@ -51,23 +72,38 @@ TEST_P(OperatorsHands, MayBeUsedInsideAHandler) {
 TEST_P(OperatorsHands, AWatcherHearsAfterTheMoveAndBeforeTheHandler) {
   struct Eyes final : ::qvn::Watcher {
     explicit Eyes(toolkit::Platform& platform) : platform_(platform) {}
-    void lostFocus(const toolkit::Widget& widget) override { EXPECT_NE(platform_.focused(), &widget); }
+    void lostFocus(const toolkit::Widget& widget) override {
+      EXPECT_NE(platform_.focused(), &widget);
+      ++lost;
+    }
     void gotFocus(const toolkit::Widget& widget) override {
       EXPECT_EQ(platform_.focused(), &widget);
       ++got;
     }
     void beeped() override {}
     toolkit::Platform& platform_;
+    int lost = 0;
     int got = 0;
   } eyes(platform());
   under().watch(&eyes);
-  box("B").GotFocus = [&] { EXPECT_EQ(eyes.got, 2); };
+  box("A").LostFocus = [&] {
+    EXPECT_EQ(eyes.lost, 1);
+    heard.emplace_back("A.LostFocus");
+  };
+  box("B").GotFocus = [&] {
+    EXPECT_EQ(eyes.got, 2);
+    heard.emplace_back("B.GotFocus");
+  };
   box("A").SetFocus();
   hands().focus(box("B"));
   hands().leave();
+  EXPECT_THAT(heard, ElementsAre("A.LostFocus", "B.GotFocus"));
+  EXPECT_EQ(eyes.lost, 2);
   EXPECT_EQ(eyes.got, 2);
   under().watch(nullptr);
-  box("A").SetFocus();
+  box("Free").SetFocus();
+  hands().leave();
+  EXPECT_EQ(eyes.lost, 2);
   EXPECT_EQ(eyes.got, 2);
 }
 

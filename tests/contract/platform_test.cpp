@@ -1,4 +1,6 @@
 // What a platform offers beside widgets, and what it says it lacks.
+#include "qvn/toolkit/data_grid.h"
+#include "qvn/toolkit/list_view.h"
 #include "tests/contract/contract_panel.h"
 
 namespace qvn::test {
@@ -36,20 +38,32 @@ TEST_P(Platform, TheScreenHasASize) {
 }
 
 TEST_P(Platform, HasNoDriversUntilAHostAddsThem) {
-  EXPECT_FAILURE(platform().drivers().find("sqlite:x.db"), FailureKind::Database, "");
+  EXPECT_FAILURE(platform().drivers().find("sqlite:x.db"), FailureKind::Database, "known are: none");
 }
 
-TEST_P(Platform, WithoutModalFormsNoFormIsLoaded) {
-  ASSERT_FALSE(platform().capabilities().modalForms);
+TEST_P(Platform, NoFormIsLoadedAtFirst) {
   EXPECT_EQ(platform().forms().count(), 0);
   EXPECT_FAILURE(platform().forms().at(0), FailureKind::SubscriptOutOfRange, "0");
   EXPECT_FAILURE(platform().forms().at(-1), FailureKind::SubscriptOutOfRange, "-1");
 }
 
-TEST_P(Platform, WithoutModalFormsNoneCanBeMade) {
-  ASSERT_FALSE(platform().capabilities().modalForms);
-  static constexpr toolkit::FormLayout kForm{.name = "Lista", .caption = "Listato"};
-  EXPECT_FAILURE(platform().makeForm(kForm), FailureKind::InvalidCall, "Lista");
+TEST_P(Platform, FormsCanBeMadeWhereItSaysSo) {
+  static constexpr toolkit::FormLayout kForm{.caption = "Listato", .inside = {.name = "Lista"}};
+  if (!platform().capabilities().modalForms) {
+    EXPECT_FAILURE(platform().makeForm(kForm, container()), FailureKind::InvalidCall, "Lista");
+    return;
+  }
+  const auto form = platform().makeForm(kForm, container());
+  EXPECT_FALSE(form->loaded());
+  EXPECT_EQ(platform().forms().count(), 0);
+  form->load();
+  EXPECT_TRUE(form->loaded());
+  EXPECT_EQ(form->Caption(), "Listato");
+  ASSERT_EQ(platform().forms().count(), 1);
+  EXPECT_EQ(&platform().forms().at(0), form.get());
+  form->unload();
+  EXPECT_FALSE(form->loaded());
+  EXPECT_EQ(platform().forms().count(), 0);
 }
 
 TEST_P(Platform, LabelsOfAGroupAreFoundByTheirIndex) {
@@ -66,16 +80,27 @@ TEST_P(Platform, LabelsOfAGroupAreFoundByTheirIndex) {
   EXPECT_FAILURE(surface->label("TAF", -1), FailureKind::NoSuchMember, "TAF(-1)");
 }
 
-TEST_P(Platform, WithoutModalFormsThereAreNoListViewsAndGrids) {
-  ASSERT_FALSE(platform().capabilities().modalForms);
+TEST_P(Platform, ListViewsGridsAndDataControlsAreMadeWhereItSaysSo) {
   static constexpr std::array<toolkit::WidgetLayout, 2> kList{
       {{.name = "Before"}, {.name = "Rows", .kind = toolkit::WidgetKind::ListView}}};
-  static constexpr std::array<toolkit::WidgetLayout, 1> kGrid{
+  static constexpr std::array<toolkit::WidgetLayout, 2> kGrid{
+      {{.name = "Data", .kind = toolkit::WidgetKind::DataControl},
+       {.name = "Grid", .kind = toolkit::WidgetKind::DataGrid, .dataSource = "Data"}}};
+  static constexpr std::array<toolkit::WidgetLayout, 1> kGridAlone{
       {{.name = "Grid", .kind = toolkit::WidgetKind::DataGrid}}};
   static constexpr toolkit::PanelLayout kListLayout{.name = "List", .widgets = kList};
   static constexpr toolkit::PanelLayout kGridLayout{.name = "Grid", .widgets = kGrid};
-  EXPECT_FAILURE(platform().makeSurface(kListLayout, container(), "p"), FailureKind::InvalidCall, "p.Rows");
-  EXPECT_FAILURE(platform().makeSurface(kGridLayout, container(), "p"), FailureKind::InvalidCall, "p.Grid");
+  static constexpr toolkit::PanelLayout kGridAloneLayout{.name = "Grid", .widgets = kGridAlone};
+  if (!platform().capabilities().modalForms) {
+    EXPECT_FAILURE(platform().makeSurface(kListLayout, container(), "p"), FailureKind::InvalidCall, "p.Rows");
+    EXPECT_FAILURE(platform().makeSurface(kGridLayout, container(), "p"), FailureKind::InvalidCall, "p.Data");
+    EXPECT_FAILURE(platform().makeSurface(kGridAloneLayout, container(), "p"), FailureKind::InvalidCall, "p.Grid");
+    return;
+  }
+  const auto rows = platform().makeSurface(kListLayout, container(), "p");
+  EXPECT_EQ(rows->listView("Rows").rowCount(), 0);
+  const auto table = platform().makeSurface(kGridLayout, container(), "p");
+  EXPECT_EQ(&table->grid("Grid").DataSource(), &table->dataControl("Data"));
 }
 
 }  // namespace

@@ -60,6 +60,17 @@ TEST_P(TextBox, NestedWritesHaveRunWhenTheWriteReturns) {
   EXPECT_THAT(heard, ElementsAre("begin 250", "begin 100", "end 100", "end 100"));
 }
 
+TEST_P(TextBox, WritesMayBeNestedAHundredDeep) {
+  int changes = 0;
+  box().Change = [&] {
+    ++changes;
+    if (box().Text().size() < 100) box().Text(box().Text() + "x");
+  };
+  box().Text("x");
+  EXPECT_EQ(box().Text(), std::string(100, 'x'));
+  EXPECT_EQ(changes, 100);
+}
+
 TEST_P(TextBox, ANestedWriteOfTheSameTextRaisesNothing) {
   box().Change = [this] {
     heard.emplace_back("change");

@@ -1,4 +1,5 @@
 // The routines beside the filters: selection, colours, replacement, forms.
+#include <deque>
 #include <gtest/gtest.h>
 #include <memory>
 #include <string>
@@ -123,7 +124,9 @@ class WithForms final : public toolkit::Platform, private toolkit::Forms {
                                                 std::string panel) override {
     return base_.makeSurface(layout, container, std::move(panel));
   }
-  std::unique_ptr<toolkit::Form> makeForm(const toolkit::FormLayout& layout) override { return base_.makeForm(layout); }
+  std::unique_ptr<toolkit::Form> makeForm(const toolkit::FormLayout& layout, toolkit::Container& container) override {
+    return base_.makeForm(layout, container);
+  }
   toolkit::Widget* focused() const override { return base_.focused(); }
   const Locale& locale() const override { return base_.locale(); }
   const toolkit::Clock& clock() const override { return base_.clock(); }
@@ -133,11 +136,13 @@ class WithForms final : public toolkit::Platform, private toolkit::Forms {
   toolkit::Drivers& drivers() override { return base_.drivers(); }
 
   toolkit::ScreenSize size{15360, 11520};
-  mutable std::vector<RecordedForm> loaded;
+  std::deque<RecordedForm> loaded;
 
  private:
   std::int32_t count() const override { return static_cast<std::int32_t>(loaded.size()); }
-  toolkit::Form& at(std::int32_t index) const override { return loaded.at(static_cast<std::size_t>(index)); }
+  toolkit::Form& at(std::int32_t index) const override {
+    return const_cast<RecordedForm&>(loaded.at(static_cast<std::size_t>(index)));
+  }
 
   toolkit::Platform& base_;
 };

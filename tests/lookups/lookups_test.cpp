@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <functional>
 #include <gtest/gtest.h>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -427,6 +428,9 @@ TEST_P(Lookups, NumbersThatTheDatabaseKeepsAsTextReadAsTheDatabaseReadsThem) {
   answer("Select DENOMINAZIONE, PERCALT From PRODUTTORI Where COD_PROD = 'P1'", {"DENOMINAZIONE", "PERCALT"},
          {of("Rossi"), of("1234567890123456.5")});
   EXPECT_EQ(CercaPRODUTTORE(key, true), "Rossi (1234567890123456,5%)");
+  answer("Select DENOMINAZIONE, PERCALT From PRODUTTORI Where COD_PROD = 'P1'", {"DENOMINAZIONE", "PERCALT"},
+         {of("Rossi"), std::numeric_limits<double>::infinity()});
+  EXPECT_FAILURE(CercaPRODUTTORE(key, true), FailureKind::Overflow, "percAlt");
   for (const auto office : {"1.250,00", "€ 1.250", "(1.250,0)"}) {
     answer("Select R_ACC From PRODUTTORI Where COD_PROD = 'P1'", {"R_ACC"}, {of(office)});
     EXPECT_EQ(std::abs(CercaR_ACC(key).tenThousandths()), 12'500'000) << office;
@@ -457,6 +461,11 @@ TEST_P(Lookups, AreCalledByNameWithTheirArgumentsInAndOut) {
   EXPECT_EQ(company[0], of("AB"));
   EXPECT_FAILURE(callLookup("CercaNIENTE", company), FailureKind::NoSuchMember, "CercaNIENTE");
   EXPECT_FAILURE(callLookup("CercaIVA", company), FailureKind::InvalidCall, "CercaIVA");
+  EXPECT_FAILURE(callLookup("CercaIVA", company), FailureKind::InvalidCall, "takes 3 arguments, given 1");
+  std::vector<Variant> noRate{of("22"), of(""), of("molto")};
+  EXPECT_FAILURE(callLookup("CercaIVA", noRate), FailureKind::TypeMismatch, "CercaIVA: argument 3: ");
+  std::vector<Variant> none;
+  EXPECT_FAILURE(callLookup("CercaSIGLA", none), FailureKind::InvalidCall, "takes 1 argument, given 0");
   std::vector<Variant> null{Null{}};
   EXPECT_FAILURE(callLookup("CercaCOMPAGNIA", null), FailureKind::InvalidUseOfNull, "CercaCOMPAGNIA");
 }

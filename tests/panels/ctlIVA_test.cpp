@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "qvn/shared/names.h"
 #include "tests/failure_matchers.h"
 #include "tests/on_platform.h"
 
@@ -370,6 +371,21 @@ TEST_P(VatCodePanel, IsReachedByNameInAnyCase) {
   std::vector<Variant> tooMany{std::int32_t{1}};
   EXPECT_FAILURE(callByName(panel, "Attiva", tooMany), FailureKind::InvalidCall, "iva.Attiva");
   EXPECT_EQ(panel.Codice(), 7);
+}
+
+TEST_P(VatCodePanel, EachPropertyWrittenByNameAnnouncesItselfAndReadsBack) {
+  int properties = 0;
+  for (const Member& member : panel.members()) {
+    if (member.kind != MemberKind::GetLet) continue;
+    ++properties;
+    SCOPED_TRACE(member.name);
+    container().notices.clear();
+    letByName(panel, member.name, std::string("7"));
+    ASSERT_EQ(container().notices.size(), 1U);
+    EXPECT_TRUE(sameName(container().notices[0], member.name));
+    EXPECT_EQ(as<std::string>(getByName(panel, member.name), platform().locale()), "7");
+  }
+  EXPECT_EQ(properties, 4);
 }
 
 TEST_P(VatCodePanel, ByNameTakesTextsInThePlatformsLocale) {

@@ -1,11 +1,11 @@
-#include "bench/panels/allocations.h"
+#include "tests/allocations.h"
 
 #include <algorithm>
 #include <cstdlib>
 #include <malloc.h>
 #include <new>
 
-namespace qvn::bench {
+namespace qvn::test {
 
 namespace {
 
@@ -34,11 +34,11 @@ std::int64_t peakBytes() { return peak; }
 std::int64_t allocationCount() { return allocations; }
 void resetPeak() { peak = live; }
 
-}  // namespace qvn::bench
+}  // namespace qvn::test
 
-void* operator new(std::size_t size) { return qvn::bench::allocate(size); }
-void* operator new[](std::size_t size) { return qvn::bench::allocate(size); }
-void operator delete(void* memory) noexcept { qvn::bench::release(memory); }
-void operator delete[](void* memory) noexcept { qvn::bench::release(memory); }
-void operator delete(void* memory, std::size_t) noexcept { qvn::bench::release(memory); }
-void operator delete[](void* memory, std::size_t) noexcept { qvn::bench::release(memory); }
+void* operator new(std::size_t size) { return qvn::test::allocate(size); }
+void* operator new[](std::size_t size) { return qvn::test::allocate(size); }
+void operator delete(void* memory) noexcept { qvn::test::release(memory); }
+void operator delete[](void* memory) noexcept { qvn::test::release(memory); }
+void operator delete(void* memory, std::size_t) noexcept { qvn::test::release(memory); }
+void operator delete[](void* memory, std::size_t) noexcept { qvn::test::release(memory); }

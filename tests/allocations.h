@@ -1,9 +1,9 @@
-// What the program holds on the heap, counted by its own operator new.
+// What the program holds on the heap, counted by its own operator new, which allocations.cpp brings.
 #pragma once
 
 #include <cstdint>
 
-namespace qvn::bench {
+namespace qvn::test {
 
 /// Bytes on the heap now, as the allocator hands them out.
 std::int64_t liveBytes();
@@ -14,4 +14,4 @@ std::int64_t allocationCount();
 /// Starts the peak anew from what is live now.
 void resetPeak();
 
-}  // namespace qvn::bench
+}  // namespace qvn::test

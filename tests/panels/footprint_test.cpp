@@ -1,0 +1,46 @@
+// What a panel takes of the heap, on widgets in memory.
+#include <gtest/gtest.h>
+
+#include "platforms/memory/platform.h"
+#include "qvn/panels/master/ctlIVA.h"
+#include "qvn/shared/Globale.h"
+#include "tests/allocations.h"
+#include "tests/recording_container.h"
+
+namespace qvn::test {
+namespace {
+
+TEST(PanelFootprint, OfTheVatCodePanelIsUnderEightKibibytesAndGivenBack) {
+  memory::Platform platform;
+  Globale::install(platform);
+  RecordingContainer container;
+  { const ctlIVA first(PanelSite{container, "iva"}); }  // makes the table of members, once
+  const std::int64_t before = liveBytes();
+  resetPeak();
+  {
+    const ctlIVA panel(PanelSite{container, "iva"});
+    EXPECT_GT(peakBytes() - before, 500);
+  }
+  EXPECT_LT(peakBytes() - before, 8 * 1024);
+  EXPECT_EQ(liveBytes(), before);
+  Globale::uninstall();
+}
+
+TEST(PanelFootprint, OfADigitIsNothing) {
+  memory::Platform platform;
+  Globale::install(platform);
+  RecordingContainer container;
+  {
+    ctlIVA panel(PanelSite{container, "iva"});
+    panel.Attiva();
+    platform.hands().type("1{Backspace}");
+    container.notices.reserve(100);
+    const std::int64_t before = allocationCount();
+    platform.hands().type("2");
+    EXPECT_EQ(allocationCount(), before);
+  }
+  Globale::uninstall();
+}
+
+}  // namespace
+}  // namespace qvn::test
