@@ -10,7 +10,8 @@ BEGIN {
   words["unload"] = "The host drops all panels and unloads the library."
   words["new"] = "The host makes the panel {panel}, a {class}."
   words["drop"] = "The host drops the panel {panel}."
-  words["show"] = "The host shows or hides the panel {panel}."
+  words["show"] = "The host shows the panel {panel}."
+  words["hide"] = "The host hides the panel {panel}."
   words["let"] = "The host writes {value} into {panel}.{name}."
   words["get"] = "The host reads {panel}.{name}."
   words["call"] = "The host calls {panel}.{name} {args}"
@@ -26,11 +27,15 @@ BEGIN {
   words["click"] = "The operator clicks {widget}."
   words["choose"] = "The operator chooses {item}{index} in {widget}."
   words["operator"] = "When {form} shows, the operator will do {acts}"
-  words["look"] = "How does {panel} {widget} stand?"
+  words["look"] = "How does {panel}.{widget} stand?"
+  words["look at all"] = "How do the widgets of {panel} stand?"
   words["draw"] = "The panel {panel}:"
   words["focused"] = "Who has the focus?"
   words["forms"] = "Which forms are loaded?"
   words["journal"] = "What has happened?"
+  # Whether %c takes characters, or bytes.
+  takes_characters = sprintf("%c", 233) == "\303\251"
+  mark = "\357\273\277"
   answers = ARGV[2]
   ARGC = 2
 }
@@ -55,13 +60,45 @@ function value_end(text, at,    depth, c) {
   return length(text)
 }
 
-# What a JSON string says, without its quotes; any other value as it is written.
-function plain(value) {
+# What a JSON string says, without its quotes; any other value as it is written. Control characters are blanks.
+function plain(value,    said, at, c, code) {
   if (value !~ /^"/) return value
   value = substr(value, 2, length(value) - 2)
-  gsub(/\\"/, "\"", value)
-  gsub(/\\\\/, "\\", value)
-  return value
+  while (at = index(value, "\\")) {
+    c = substr(value, at + 1, 1)
+    said = said substr(value, 1, at - 1)
+    value = substr(value, at + 2)
+    if (c ~ /[bfnrt]/) said = said " "
+    else if (c != "u") said = said c
+    else {
+      code = hexadecimal(substr(value, 1, 4))
+      value = substr(value, 5)
+      if (code >= 55296 && code < 56320 && value ~ /^\\u[dD][c-fC-F]/) {
+        code = (code - 55296) * 1024 + hexadecimal(substr(value, 3, 4)) - 56320 + 65536
+        value = substr(value, 7)
+      }
+      said = said character(code)
+    }
+  }
+  return said value
+}
+
+function hexadecimal(digits,    i, number) {
+  for (i = 1; i <= length(digits); ++i) {
+    number = number * 16 + index("0123456789abcdef", tolower(substr(digits, i, 1))) - 1
+  }
+  return number
+}
+
+# A code's character in UTF-8; half a pair stands for none.
+function character(code) {
+  if (code < 32 || code == 127) return " "
+  if (code >= 55296 && code < 57344) code = 65533
+  if (code < 128 || takes_characters) return sprintf("%c", code)
+  if (code < 2048) return sprintf("%c%c", 192 + int(code / 64), 128 + code % 64)
+  if (code < 65536) return sprintf("%c%c%c", 224 + int(code / 4096), 128 + int(code / 64) % 64, 128 + code % 64)
+  return sprintf("%c%c%c%c", 240 + int(code / 262144), 128 + int(code / 4096) % 64, 128 + int(code / 64) % 64,
+                 128 + code % 64)
 }
 
 # Takes a JSON object apart into fields[key]; gives the number of them, and their keys in order in keys[].
@@ -84,9 +121,12 @@ function take_apart(object, fields, keys,    at, end, key, count) {
   return count
 }
 
-function in_words(request, fields,    text, key) {
-  if (!(plain(fields["do"]) in words)) return request
-  text = words[plain(fields["do"])]
+function in_words(request, fields,    text, key, wanted) {
+  wanted = plain(fields["do"])
+  if (!(wanted in words)) return request
+  if (wanted == "show" && fields["visible"] == "false") wanted = "hide"
+  if (wanted == "look" && !("widget" in fields)) wanted = "look at all"
+  text = words[wanted]
   while (match(text, /[{][a-z]+[}]/)) {
     key = substr(text, RSTART + 1, RLENGTH - 2)
     text = substr(text, 1, RSTART - 1) "\001" (key in fields ? plain(fields[key]) : "") "\002" substr(text, RSTART + RLENGTH)
@@ -131,6 +171,7 @@ function show_answer(answer,    fields, keys, count, i, key) {
   }
 }
 
+NR == 1 && index($0, mark) == 1 { $0 = substr($0, length(mark) + 1) }
 /^[ \t\r]*$/ { print ""; next }
 /^#/ { sub(/^# ?/, ""); print; next }
 {

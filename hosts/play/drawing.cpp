@@ -102,6 +102,7 @@ Characters fitted(Characters characters, int cells, Align align) {
 
 using Sides = std::pair<std::string_view, std::string_view>;
 constexpr Sides kBordered{"[", "]"};
+constexpr Sides kDisabled{"(", ")"};
 
 /// What surrounds a widget that the operator can use.
 Sides sidesOf(const Widget& widget) {
@@ -133,9 +134,9 @@ void drawFrame(Canvas& canvas, const Drawn& frame) {
   canvas.put(frame.bottomRow, first, "└");
   canvas.put(frame.bottomRow, last, "┘");
   Characters caption = charactersOf(static_cast<const toolkit::Frame&>(*frame.widget).Caption());
-  const int room = last - first - 2;
-  if (static_cast<int>(caption.size()) > room) caption = fitted(std::move(caption), room, Align::Left);
-  canvas.write(frame.row, first + 2, caption);
+  const int from = std::min(first + 2, last - 1);
+  if (static_cast<int>(caption.size()) > last - from) caption = fitted(std::move(caption), last - from, Align::Left);
+  canvas.write(frame.row, from, caption);
 }
 
 /// What hides whatever lies under it.
@@ -167,7 +168,8 @@ void drawSolid(Canvas& canvas, const Drawn& drawn) {
     case WidgetKind::Label: {
       const auto& label = static_cast<const toolkit::Label&>(widget);
       if (!label.layout().bordered) return;
-      return between(kBordered, fitted(charactersOf(label.Caption()), room, label.layout().align));
+      return between(label.Enabled() ? kBordered : kDisabled,
+                     fitted(charactersOf(label.Caption()), room, label.layout().align));
     }
     default:
       return;
@@ -182,7 +184,11 @@ void drawCaption(Canvas& canvas, const Drawn& drawn) {
     canvas.writeBehind(drawn.row, drawn.columns.from + 4, charactersOf(box.Caption()));
   }
   if (widget.Kind() != WidgetKind::Label || widget.layout().bordered) return;
-  const Characters caption = charactersOf(static_cast<const toolkit::Label&>(widget).Caption());
+  Characters caption = charactersOf(static_cast<const toolkit::Label&>(widget).Caption());
+  if (!widget.Enabled() && !caption.empty()) {
+    caption.insert(caption.begin(), std::string(kDisabled.first));
+    caption.emplace_back(kDisabled.second);
+  }
   const int blanks = drawn.columns.to - drawn.columns.from - static_cast<int>(caption.size());
   const Align align = widget.layout().align;
   const int before = align == Align::Right ? blanks : align == Align::Center ? blanks / 2 : 0;

@@ -16,6 +16,7 @@ namespace qvn::play {
 ///     │          ┆text  ┆        │   a field that cannot be used, by itself or by its frame
 ///     │          │item ▾│        │   a closed list
 ///     │          [text  ]        │   a label with a border
+///     │ (Caption:) (text  )      │   labels that are disabled; in a frame that is, its sides tell it for them
 ///     │ │x│ Caption  │ Caption │ │   a check box, a button; their sides tell the same as a field's
 ///     └──────────────────────────┘
 ///

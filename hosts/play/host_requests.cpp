@@ -24,11 +24,19 @@ void disconnect(Session&, const Request&, Answer&) { Globale::DB().Close(); }
 
 void unload(Session& session, const Request&, Answer&) { session.unload(); }
 
+const PanelClass& classFor(const std::string& panel, const std::string& className) {
+  try {
+    return panelClass(className);
+  } catch (const Failure& failure) {
+    throw failure.within(panel);
+  }
+}
+
 void make(Session& session, const Request& request, Answer&) {
   const std::string& name = request.text("panel");
   const std::string& className = request.text("class");
   const bool visible = request.flag("visible", true);
-  session.panels().make(name, className).surface().Visible(visible);
+  session.panels().make(name, classFor(name, className)).surface().Visible(visible);
 }
 
 void drop(Session& session, const Request& request, Answer&) { session.panels().drop(request.text("panel")); }
@@ -40,7 +48,7 @@ void show(Session& session, const Request& request, Answer&) {
 void let(Session& session, const Request& request, Answer&) {
   Panel& panel = session.panels().at(request.text("panel"));
   const std::string& name = request.text("name");
-  letByName(panel, name, request.value("value", session.locale()));
+  letByName(panel, name, request.value(session.locale()));
 }
 
 void get(Session& session, const Request& request, Answer& answer) {
@@ -52,7 +60,7 @@ void get(Session& session, const Request& request, Answer& answer) {
 template <class Function>
 void callWithArgs(const Session& session, const Request& request, Answer& answer, bool givesValue,
                   Function&& function) {
-  std::vector<Variant> args = request.values("args", session.locale());
+  std::vector<Variant> args = request.arguments(session.locale());
   const auto showArgs = [&] {
     if (!request.has("args")) return;
     Answer& list = answer["args"] = Answer::array();

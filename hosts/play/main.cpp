@@ -1,7 +1,9 @@
 // qvn-play, the session player.
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
+#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
@@ -31,13 +33,33 @@ bool isPassedOver(std::string_view line) {
   return line.starts_with('#') || line.find_first_not_of(" \t\r") == std::string_view::npos;
 }
 
+/// What the system said of the call that has just failed, if it said anything; errno was 0 before.
+std::string cause() { return errno != 0 ? std::string(": ").append(std::strerror(errno)) : std::string(); }
+
+/// Writes to standard output at once. Where that fails it is told, but a reader who has gone did so on purpose.
+bool written(std::string_view text) {
+  errno = 0;
+  std::cout << text << std::flush;
+  if (std::cout) return true;
+  if (errno != EPIPE) complain(kUnreadable, "the answers cannot be written" + cause());
+  return false;
+}
+
+std::string_view withoutByteOrderMark(std::string_view line) {
+  constexpr std::string_view kMark = "\xEF\xBB\xBF";
+  return line.starts_with(kMark) ? line.substr(kMark.size()) : line;
+}
+
 int play(std::istream& input, std::string_view inputName, Session& session, bool strict) {
-  std::string line;
-  while (std::getline(input, line)) {
-    if (isPassedOver(line)) continue;
+  bool first = true;
+  for (std::string read; std::getline(input, read); first = false) {
+    const std::string_view line = first ? withoutByteOrderMark(read) : read;
+    if (isPassedOver(line)) {
+      session.passOver();
+      continue;
+    }
     const Answer answer = session.answer(line);
-    std::cout << answer.dump(-1, ' ', false, Answer::error_handler_t::replace) << std::endl;
-    if (!std::cout) return complain(kUnreadable, "the answers cannot be written");
+    if (!written(answer.dump(-1, ' ', false, Answer::error_handler_t::replace).append("\n"))) return kUnreadable;
   }
   if (input.bad()) return complain(kUnreadable, std::string("cannot read ").append(inputName));
   if (session.anyBadRequest()) return kBadRequest;
@@ -45,11 +67,10 @@ int play(std::istream& input, std::string_view inputName, Session& session, bool
 }
 
 int play(const Arguments& arguments) {
-  const std::unique_ptr<Toolkit> toolkit = makeToolkit(arguments.toolkit);
+  const std::unique_ptr<Toolkit> toolkit = makeToolkit(arguments.toolkit, arguments.today);
   if (!toolkit) {
     return complain(kWrongUsage, "no toolkit \"" + arguments.toolkit + "\" is built in; there is: " + toolkitNames());
   }
-  if (arguments.today) toolkit->today(*arguments.today);
   const std::array<qvn::toolkit::Driver*, 1> drivers{&qvn::sqlite::driver()};
   Session session(*toolkit, drivers);
   if (arguments.file.empty()) return play(std::cin, "standard input", session, arguments.strict);
@@ -58,8 +79,9 @@ int play(const Arguments& arguments) {
   if (std::filesystem::is_directory(arguments.file, none)) {
     return complain(kUnreadable, "cannot read " + arguments.file + ": it is a folder");
   }
+  errno = 0;
   std::ifstream file(arguments.file, std::ios::binary);
-  if (!file) return complain(kUnreadable, "cannot read " + arguments.file + ": " + std::strerror(errno));
+  if (!file) return complain(kUnreadable, "cannot read " + arguments.file + cause());
   return play(file, arguments.file, session, arguments.strict);
 }
 
@@ -67,14 +89,14 @@ int play(const Arguments& arguments) {
 
 int main(int argc, char** argv) {
   std::ios::sync_with_stdio(false);
+  std::signal(SIGPIPE, SIG_IGN);  // writing tells it when nobody reads the answers
   try {
     const Arguments arguments = argumentsOf(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
-    if (arguments.help) {
-      std::cout << kUsage;
-      return kPlayed;
-    }
+    if (arguments.help) return written(kUsage) ? kPlayed : kUnreadable;
     return play(arguments);
   } catch (const WrongUsage& wrong) {
     return complain(kWrongUsage, std::string(wrong.what()) + "\n" + kUsage);
+  } catch (const std::exception& unforeseen) {
+    return complain(kUnreadable, unforeseen.what());
   }
 }

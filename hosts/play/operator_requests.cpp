@@ -20,20 +20,39 @@ void atWidget(Session& session, const Request& request, Act&& act) {
   }
 }
 
+/// Does something to what has the focus; a failure names the widget that has it by then, if one has.
+template <class Act>
+void atFocus(Session& session, Act&& act) {
+  try {
+    act(session.hands());
+  } catch (const Failure& failure) {
+    const toolkit::Widget* widget = session.toolkit().platform().focused();
+    if (widget == nullptr) throw;
+    throw Failure(failure.kind(), placed(widget->owner(), *widget, failure.what()));
+  }
+}
+
 void focus(Session& session, const Request& request, Answer&) {
   atWidget(session, request, [&](toolkit::Widget& widget) { session.hands().focus(widget); });
 }
 
 void leave(Session& session, const Request&, Answer&) { session.hands().leave(); }
 
-void type(Session& session, const Request& request, Answer&) { session.hands().type(request.text("keys")); }
+void type(Session& session, const Request& request, Answer&) {
+  const std::string& keys = request.text("keys");
+  atFocus(session, [&](Operator& hands) { hands.type(keys); });
+}
 
 void caret(Session& session, const Request& request, Answer&) {
   const std::int32_t start = request.whole("start");
-  session.hands().caret(start, request.whole("length"));
+  const std::int32_t length = request.whole("length");
+  atFocus(session, [&](Operator& hands) { hands.caret(start, length); });
 }
 
-void paste(Session& session, const Request& request, Answer&) { session.hands().paste(request.text("text")); }
+void paste(Session& session, const Request& request, Answer&) {
+  const std::string& text = request.text("text");
+  atFocus(session, [&](Operator& hands) { hands.paste(text); });
+}
 
 void click(Session& session, const Request& request, Answer&) {
   atWidget(session, request, [&](toolkit::Widget& widget) { session.hands().click(widget); });

@@ -8,8 +8,7 @@
 
 namespace qvn::play {
 
-Panel& Panels::make(const std::string& name, std::string_view className) {
-  const PanelClass& made = panelClass(className);
+Panel& Panels::make(const std::string& name, const PanelClass& made) {
   if (panels_.contains(name)) {
     throw Failure(FailureKind::InvalidCall, "the session has a panel \"" + name + "\" already");
   }

@@ -18,9 +18,8 @@ class Panels final : public toolkit::Container {
  public:
   explicit Panels(Journal& journal) : journal_(journal) {}
 
-  /// "no such member" for an unknown class, "invalid call" for a name that is taken; whatever the class's own making
-  /// fails with passes on, and no panel stays.
-  Panel& make(const std::string& name, std::string_view className);
+  /// "invalid call" for a name that is taken; whatever the class's own making fails with passes on, and no panel stays.
+  Panel& make(const std::string& name, const PanelClass& made);
   /// The panel of a name, BadRequest if the session has none.
   Panel& at(const std::string& name) const;
   void drop(const std::string& name);

@@ -1,6 +1,7 @@
 #include "hosts/play/request.h"
 
 #include "hosts/play/bad_request.h"
+#include "qvn/shared/failure.h"
 
 namespace qvn::play {
 
@@ -65,18 +66,44 @@ bool Request::flag(const char* name, bool otherwise) const {
   return value.get<bool>();
 }
 
-Variant Request::value(const char* name, const Locale& locale) const { return toVariant(field(name), locale); }
+std::string Request::subject() const {
+  const auto textOf = [this](const char* name) -> std::optional<std::string> {
+    const auto found = json_.find(name);
+    if (found == json_.end() || !found->is_string()) return std::nullopt;
+    return shortened(found->get<std::string>());
+  };
+  const std::optional<std::string> panel = textOf("panel");
+  const std::optional<std::string> part = has("name") ? textOf("name") : textOf("widget");
+  if (panel && part) return *panel + "." + *part;
+  return panel ? *panel : part.value_or("");
+}
 
-std::vector<Variant> Request::values(const char* name, const Locale& locale) const {
+std::string Request::asked() const {
+  const std::string to = subject();
+  return to.empty() ? name_ : name_ + " " + to;
+}
+
+Variant Request::value(const Locale& locale) const {
+  try {
+    return toVariant(field("value"), locale);
+  } catch (const Failure& failure) {
+    throw failure.within(subject());
+  }
+}
+
+std::vector<Variant> Request::arguments(const Locale& locale) const {
   std::vector<Variant> result;
-  if (!has(name)) return result;
-  const Json& list = field(name);
-  if (!list.is_array()) throw BadRequest(std::string("\"") + name + "\" is no list: " + excerpt(list));
+  if (!has("args")) return result;
+  const Json& list = field("args");
+  if (!list.is_array()) throw BadRequest("\"args\" is no list: " + excerpt(list));
   for (const Json& one : list) {
+    const std::string place = "argument " + std::to_string(result.size() + 1);
     try {
       result.push_back(toVariant(one, locale));
     } catch (const BadRequest& bad) {
-      throw BadRequest(std::string("\"") + name + "\"[" + std::to_string(result.size()) + "]: " + bad.what());
+      throw BadRequest(place + ": " + bad.what());
+    } catch (const Failure& failure) {
+      throw failure.within(place).within(subject());
     }
   }
   return result;

@@ -18,6 +18,10 @@ class Request {
   explicit Request(std::string_view line);
 
   const std::string& name() const { return name_; }
+  /// What it is done to, as far as the request tells: "panel.member", "panel.widget", a panel, a lookup, or empty.
+  std::string subject() const;
+  /// The request in short, for messages: "let panel.member".
+  std::string asked() const;
   bool has(const char* field) const { return json_.contains(field); }
 
   const std::string& text(const char* field) const;
@@ -26,9 +30,10 @@ class Request {
   std::int32_t whole(const char* field) const;
   /// The default where the field is left out.
   bool flag(const char* field, bool otherwise) const;
-  Variant value(const char* field, const Locale& locale) const;
-  /// None where the field is left out.
-  std::vector<Variant> values(const char* field, const Locale& locale) const;
+  /// The value and, in "args", the arguments: none where they are left out. An element of an array that does not
+  /// convert fails as the conversion does, naming the subject and which argument it is.
+  Variant value(const Locale& locale) const;
+  std::vector<Variant> arguments(const Locale& locale) const;
 
  private:
   const Json& field(const char* name) const;

@@ -1,6 +1,7 @@
 #include "hosts/play/session.h"
 
 #include <algorithm>
+#include <exception>
 #include <utility>
 
 #include "hosts/play/bad_request.h"
@@ -63,6 +64,7 @@ void Session::unload() {
 }
 
 Answer Session::answer(std::string_view line) {
+  ++line_;
   Answer answer = carriedOut(line);
   if (!answer["ok"].get<bool>()) {
     anyFailed_ = true;
@@ -73,19 +75,23 @@ Answer Session::answer(std::string_view line) {
 
 Answer Session::carriedOut(std::string_view line) {
   const std::int32_t beepsBefore = journal_.beeps();
+  std::optional<Request> request;
   const RequestKind* kind = nullptr;
   Answer added = Answer::object();
   Answer answer = Answer::object();
   try {
-    const Request request(line);
-    kind = &kindOf(request);
-    kind->carryOut(*this, request, added);
+    request.emplace(line);
+    kind = &kindOf(*request);
+    kind->carryOut(*this, *request, added);
     answer["ok"] = true;
   } catch (const BadRequest& bad) {
-    answer =
-        failed(kBadRequest, kind == nullptr ? bad.what() : std::string(kind->name).append(": ").append(bad.what()));
+    const std::string asked = kind == nullptr ? std::string() : request->asked().append(": ");
+    answer = failed(kBadRequest, "line " + std::to_string(line_) + ": " + asked + bad.what());
   } catch (const Failure& failure) {
     answer = failed(nameOf(failure.kind()), failure.what());
+  } catch (const std::exception& unforeseen) {
+    const std::string asked = request ? request->asked().append(": ") : std::string();
+    answer = failed(nameOf(FailureKind::InvalidCall), asked + unforeseen.what());
   }
   answer.update(added);
   if (kind != nullptr && kind->byOperator) {

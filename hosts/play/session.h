@@ -26,8 +26,11 @@ class Session {
   Session(const Session&) = delete;
   Session& operator=(const Session&) = delete;
 
-  /// Does what a line says and answers it.
+  /// Does what a line says and answers it; whatever it throws becomes a failure. Lines are counted from 1, and a bad
+  /// request tells its line.
   Answer answer(std::string_view line);
+  /// Counts a line that gets no answer.
+  void passOver() { ++line_; }
 
   /// Whether any answer had "ok": false, and whether any was the failure "bad request".
   bool anyFailed() const { return anyFailed_; }
@@ -54,6 +57,7 @@ class Session {
   std::vector<std::unique_ptr<JournalingDriver>> drivers_;
   Subscription mancaDB_;
   std::optional<std::string> mancaDBAnswer_;
+  std::size_t line_ = 0;
   bool anyFailed_ = false;
   bool anyBadRequest_ = false;
 };

@@ -43,9 +43,12 @@ std::string toolkitNames() {
   return names;
 }
 
-std::unique_ptr<Toolkit> makeToolkit(std::string_view name) {
+std::unique_ptr<Toolkit> makeToolkit(std::string_view name, std::optional<Date> today) {
   const auto* found = std::ranges::find(kToolkits, name, &Named::name);
-  return found != kToolkits.end() ? found->make() : nullptr;
+  if (found == kToolkits.end()) return nullptr;
+  std::unique_ptr<Toolkit> toolkit = found->make();
+  if (today) toolkit->today(*today);
+  return toolkit;
 }
 
 }  // namespace qvn::play

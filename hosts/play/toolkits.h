@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -24,7 +25,7 @@ class Toolkit {
 /// The names of the toolkits built in, for messages: "memory, qt".
 std::string toolkitNames();
 
-/// A toolkit by its name, null if none of that name is built in.
-std::unique_ptr<Toolkit> makeToolkit(std::string_view name);
+/// A toolkit by its name, null if none of that name is built in. Its clock tells the date given, or the system's.
+std::unique_ptr<Toolkit> makeToolkit(std::string_view name, std::optional<Date> today = {});
 
 }  // namespace qvn::play

@@ -8,8 +8,7 @@
 #include <vector>
 
 #include "hosts/play/rows.h"
-#include "platforms/memory/platform.h"
-#include "tests/recording_container.h"
+#include "tests/sessions/laid_out.h"
 
 namespace qvn::play {
 namespace {
@@ -19,19 +18,7 @@ using toolkit::Align;
 using toolkit::WidgetKind;
 using toolkit::WidgetLayout;
 
-class Drawing : public testing::Test {
- protected:
-  toolkit::Surface& place(std::span<const WidgetLayout> widgets) {
-    layout_ = {.name = "drawn", .width = 3000, .height = 2000, .widgets = widgets};
-    surface_ = platform_.makeSurface(layout_, container_, "p");
-    return *surface_;
-  }
-
-  memory::Platform platform_;
-  test::RecordingContainer container_;
-  toolkit::PanelLayout layout_;
-  std::unique_ptr<toolkit::Surface> surface_;
-};
+class Drawing : public LaidOut {};
 
 TEST_F(Drawing, ShowsEachKindOfWidget) {
   static constexpr std::array<std::string_view, 2> items{"DARE", "AVERE"};
@@ -105,6 +92,40 @@ TEST_F(Drawing, TellsWhatCanBeUsedAndWhatHasTheFocus) {
   EXPECT_EQ(drawn(panel).front(), "┆uno     ┆┆due     ┆          ┆x┆ si");
   panel.Visible(false);
   EXPECT_TRUE(drawn(panel).empty());
+}
+
+TEST_F(Drawing, TellsWhichLabelsAreDisabledByThemselves) {
+  static constexpr std::array<WidgetLayout, 5> widgets{{
+      {.name = "Label1", .kind = WidgetKind::Label, .place = {0, 0, 750, 315}, .caption = "Nome:", .enabled = false},
+      {.name = "Label2",
+       .kind = WidgetKind::Label,
+       .place = {750, 0, 750, 315},
+       .caption = "12,50",
+       .align = Align::Right,
+       .enabled = false,
+       .bordered = true},
+      {.name = "Label3",
+       .kind = WidgetKind::Label,
+       .place = {1575, 0, 750, 315},
+       .caption = "Età:",
+       .align = Align::Right,
+       .enabled = false},
+      {.name = "Label4", .kind = WidgetKind::Label, .place = {2400, 0, 150, 315}, .enabled = false},
+      {.name = "Text1", .place = {2400, 0, 375, 315}, .caption = "7"},
+  }};
+  toolkit::Surface& panel = place(widgets);
+  EXPECT_EQ(drawn(panel).front(), "(Nome:)   (   12,50)     (Età:) │7  │");
+  for (const char* const label : {"Label1", "Label2", "Label3"}) panel.label(label).Enabled(true);
+  EXPECT_EQ(drawn(panel).front(), "Nome:     [   12,50]       Età: │7  │");
+}
+
+TEST_F(Drawing, KeepsTheCornersOfANarrowFrame) {
+  static constexpr std::array<WidgetLayout, 3> widgets{{
+      {.name = "Frame1", .kind = WidgetKind::Frame, .place = {0, 0, 75, 600}, .caption = "Dati:"},
+      {.name = "Frame2", .kind = WidgetKind::Frame, .place = {375, 0, 300, 600}, .caption = "Dati:"},
+      {.name = "Frame3", .kind = WidgetKind::Frame, .place = {750, 0, 375, 600}, .caption = "Dati:"},
+  }};
+  EXPECT_THAT(drawn(place(widgets)), ElementsAre("┌…┐  ┌─…┐ ┌─D…┐", "└─┘  └──┘ └───┘"));
 }
 
 TEST_F(Drawing, CutsWhatDoesNotFitAndSaysSo) {

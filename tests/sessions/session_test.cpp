@@ -7,24 +7,12 @@
 #include <string>
 
 #include "tests/fake_database.h"
+#include "tests/sessions/played_session.h"
 
 namespace qvn::play {
 namespace {
 
 using testing::HasSubstr;
-
-class PlayedSession : public testing::Test {
- protected:
-  Answer play(std::string_view line) { return session_.answer(line); }
-
-  test::FakeDriver driver_;
-  std::unique_ptr<Toolkit> toolkit_ = makeToolkit("memory");
-  std::array<toolkit::Driver*, 1> drivers_{&driver_};
-  Session session_{*toolkit_, drivers_};
-};
-
-MATCHER(IsOk, "") { return arg["ok"].template get<bool>(); }
-MATCHER(IsBadRequest, "") { return !arg["ok"].template get<bool>() && arg["failure"] == "bad request"; }
 
 TEST_F(PlayedSession, SurvivesWhatIsNoText) {
   const std::string nul("{\"do\":\0\"classes\"}", 17);
@@ -76,6 +64,13 @@ TEST_F(PlayedSession, CountsFailuresAndBadRequestsApart) {
   EXPECT_FALSE(session_.anyBadRequest());
   EXPECT_THAT(play("{}"), IsBadRequest());
   EXPECT_TRUE(session_.anyBadRequest());
+}
+
+TEST_F(PlayedSession, TellsTheLineOfABadRequestCountingThoseWithoutAnAnswer) {
+  EXPECT_THAT(play(R"({"do":"classes"})"), IsOk());
+  session_.passOver();
+  EXPECT_THAT(play(R"({"do":"dance"})"), FailsAs("bad request", R"(line 3: there is no request "dance")"));
+  EXPECT_THAT(play("dance"), FailsAs("bad request", "line 4: no JSON object, from byte 1 on: dance"));
 }
 
 TEST_F(PlayedSession, KeepsFailedOpeningsAndStatementsInTheJournal) {
