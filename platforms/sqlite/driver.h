@@ -18,8 +18,10 @@ namespace qvn::sqlite {
 ///
 /// The statements' dialect:
 /// - A division gives a fraction, whatever the columns hold, in statements that reach the driver; views keep their own.
-/// - Like disregards the case of ASCII letters and of the accented letters of western Europe (U+00C0 to U+00DE).
-///   Comparisons by "=" follow the column's own collation.
+/// - Like disregards the case of ASCII letters and of the accented letters of western Europe (U+00C0 to U+00DE), in
+///   statements that reach the driver; in views of ASCII letters alone. A beginning in ASCII ("abc%") is found by an
+///   index on a text column that disregards case (NOCASE). Regexp is another word for Like. Comparisons by "=" follow
+///   the column's own collation.
 /// - Columns are named without regard to case; of two with the same name the first counts.
 /// - Integers come as 32-bit integers where they fit and as decimals beyond, reals as doubles, texts as texts, Null as
 ///   Null. A binary value fails with "database" when it is read.

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "platforms/sqlite/like.h"
+#include "platforms/sqlite/reason.h"
 #include "qvn/shared/failure.h"
 #include "qvn/shared/names.h"
 
@@ -15,7 +16,7 @@ namespace qvn::sqlite {
 namespace {
 
 /// The functions that compute from their arguments alone, and the aggregates.
-constexpr std::array<std::string_view, 73> kFunctions{
+constexpr std::array<std::string_view, 74> kFunctions{
     "->",           "->>",         "abs",        "avg",          "ceil",         "ceiling",
     "char",         "coalesce",    "count",      "cume_dist",    "date",         "datetime",
     "dense_rank",   "first_value", "floor",      "format",       "group_concat", "hex",
@@ -24,11 +25,11 @@ constexpr std::array<std::string_view, 73> kFunctions{
     "lag",          "last_value",  "lead",       "length",       "like",         "likelihood",
     "likely",       "lower",       "ltrim",      "max",          "min",          "mod",
     "nth_value",    "ntile",       "nullif",     "percent_rank", "pow",          "power",
-    "printf",       "quote",       "rank",       "replace",      "round",        "row_number",
-    "rtrim",        "sign",        "soundex",    "sqrt",         "strftime",     "string_agg",
-    "substr",       "substring",   "sum",        "time",         "total",        "trim",
-    "trunc",        "typeof",      "unicode",    "unixepoch",    "unlikely",     "upper",
-    "zeroblob"};
+    "printf",       "quote",       "rank",       "regexp",       "replace",      "round",
+    "row_number",   "rtrim",       "sign",       "soundex",      "sqrt",         "strftime",
+    "string_agg",   "substr",      "substring",  "sum",          "time",         "total",
+    "trim",         "trunc",       "typeof",     "unicode",      "unixepoch",    "unlikely",
+    "upper",        "zeroblob"};
 
 /// Allows reading, and nothing else.
 int authorize(void* /*context*/, int action, const char* /*detail*/, const char* function, const char* /*database*/,
@@ -56,18 +57,13 @@ constexpr std::array<std::pair<int, bool>, 4> kSettings{{
     {SQLITE_DBCONFIG_ENABLE_LOAD_EXTENSION, false},
 }};
 
-constexpr std::array<std::pair<int, int>, 10> kLimits{{
+constexpr std::array<std::pair<int, int>, 6> kLimits{{
     {SQLITE_LIMIT_LENGTH, kLongestValue},
-    // Rewriting a statement may lengthen it.
-    {SQLITE_LIMIT_SQL_LENGTH, static_cast<int>(kLongestStatement) * 4},
     {SQLITE_LIMIT_EXPR_DEPTH, 200},
     {SQLITE_LIMIT_COMPOUND_SELECT, 50},
     {SQLITE_LIMIT_VDBE_OP, 250'000},
     {SQLITE_LIMIT_ATTACHED, 0},
     {SQLITE_LIMIT_LIKE_PATTERN_LENGTH, kLongestPattern},
-    {SQLITE_LIMIT_VARIABLE_NUMBER, kMostBound},
-    {SQLITE_LIMIT_TRIGGER_DEPTH, 1},
-    {SQLITE_LIMIT_WORKER_THREADS, 0},
 }};
 
 /// The driver's own steps ahead of the authorizer. Sorting stays in memory, so that no temporary file comes into being.
@@ -88,7 +84,7 @@ bool Work::exceeded() {
     memoryAtFirst_ = memory;
     first_ = now;
   }
-  return ++looks_ > kMostLooks || memory - memoryAtFirst_ > kMostMemory || now - first_ > kLongestRun;
+  return ++looks_ > bounds_.looks || memory - memoryAtFirst_ > bounds_.memory || now - first_ > bounds_.time;
 }
 
 void guard(sqlite3& database, Work& work) {
@@ -97,10 +93,10 @@ void guard(sqlite3& database, Work& work) {
   for (const auto& [limit, value] : kLimits) sqlite3_limit(&database, limit, value);
   work.start();
   sqlite3_progress_handler(&database, kStepsPerLook, look, &work);
-  addLike(database);
+  addRegexp(database);
   for (const char* step : kSteps) {
     if (sqlite3_exec(&database, step, nullptr, nullptr, nullptr) == SQLITE_OK) continue;
-    std::string reason = sqlite3_errmsg(&database);
+    std::string reason = reasonOf(database);
     if (sqlite3_errcode(&database) == SQLITE_CANTOPEN)
       reason += ", or the \"-wal\" and \"-shm\" files that belong to it";
     throw Failure(FailureKind::Database, reason);

@@ -24,30 +24,36 @@ inline constexpr int kMostBound = 32;
 
 /// Steps of the database's machine between two looks at the work done.
 inline constexpr int kStepsPerLook = 100;
-/// The most looks at one statement: 100 million steps, several times what a sorted list of a million rows takes.
-inline constexpr std::int64_t kMostLooks = 1'000'000;
-/// The longest that a statement may run. The host's user interface waits with it.
-inline constexpr std::chrono::seconds kLongestRun{10};
-/// The most memory that a statement may take for sorting and grouping, in bytes.
-inline constexpr std::int64_t kMostMemory = std::int64_t{1} << 29;
-/// The most bytes that the rows of one answer may take.
-inline constexpr std::size_t kLargestAnswer = std::size_t{1} << 28;
+
+/// The most that one statement may take.
+struct Bounds {
+  /// Looks at its work: 100 million steps, several times what a sorted list of a million rows takes.
+  std::int64_t looks = 1'000'000;
+  /// From its first look on. The host's user interface waits as long.
+  std::chrono::milliseconds time{10'000};
+  /// Bytes, for sorting and grouping.
+  std::int64_t memory = std::int64_t{1} << 29;
+  /// Bytes, for the rows of its answer.
+  std::size_t answer = std::size_t{1} << 28;
+};
 
 /// The work of the running statement, which stops it where it exceeds its bounds.
 class Work {
  public:
+  explicit Work(const Bounds& bounds) : bounds_(bounds) {}
   void start() { looks_ = 0; }
   /// Counts a look; true if the statement is to stop.
   bool exceeded();
 
  private:
+  Bounds bounds_;
   std::int64_t looks_ = 0;
   std::chrono::steady_clock::time_point first_;
   std::int64_t memoryAtFirst_ = 0;
 };
 
 /// Puts all guards on a database, which then only reads. The work is watched from then on and must outlive it.
-/// Fails with "database", with SQLite's words alone, if the database cannot be read.
+/// Fails with "database", with the reason alone, if the database cannot be read.
 void guard(sqlite3& database, Work& work);
 
 }  // namespace qvn::sqlite

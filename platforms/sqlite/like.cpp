@@ -30,8 +30,8 @@ std::string_view textOf(sqlite3_value* value) {
                          : std::string_view(text, static_cast<std::size_t>(sqlite3_value_bytes(value)));
 }
 
-/// like(pattern, text) or like(pattern, text, escape), which is how the operator is called.
-void like(sqlite3_context* context, int count, sqlite3_value** arguments) {
+/// regexp(pattern, text) or regexp(pattern, text, escape), which is how the operator is called.
+void regexp(sqlite3_context* context, int count, sqlite3_value** arguments) {
   if (sqlite3_value_type(arguments[0]) == SQLITE_BLOB || sqlite3_value_type(arguments[1]) == SQLITE_BLOB)
     return sqlite3_result_int(context, 0);
   for (int i = 0; i < count; ++i) {
@@ -92,10 +92,10 @@ bool isLike(std::string_view text, std::string_view pattern, char32_t escape) {
   return escape == U'%' ? inPattern == pattern.size() : pattern.find_first_not_of('%', inPattern) == kNone;
 }
 
-void addLike(sqlite3& database) {
+void addRegexp(sqlite3& database) {
   for (const int count : {2, 3}) {
-    sqlite3_create_function(&database, "like", count, SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS, nullptr,
-                            like, nullptr, nullptr);
+    sqlite3_create_function(&database, "regexp", count, SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS, nullptr,
+                            regexp, nullptr, nullptr);
   }
 }
 

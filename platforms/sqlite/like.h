@@ -10,7 +10,8 @@ namespace qvn::sqlite {
 /// without regard to case, as far as U+00DE. A character behind the escape stands for itself; '\0' is no escape.
 bool isLike(std::string_view text, std::string_view pattern, char32_t escape = 0);
 
-/// Puts it in the place of the database's own Like.
-void addLike(sqlite3& database);
+/// Makes it known to a database as the operator Regexp, which stands in expressions as Like does. The database's own
+/// Like stays, since no other finds a text's beginning by an index.
+void addRegexp(sqlite3& database);
 
 }  // namespace qvn::sqlite

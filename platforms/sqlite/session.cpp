@@ -3,15 +3,13 @@
 #include <algorithm>
 #include <utility>
 
+#include "platforms/sqlite/reason.h"
 #include "qvn/shared/characters.h"
 #include "qvn/shared/failure.h"
 
 namespace qvn::sqlite {
 
 namespace {
-
-/// How many prepared statements are kept: more than the library has.
-constexpr std::size_t kMostPrepared = 64;
 
 /// A text as a message quotes it. SQLite's words may hold all of a long statement.
 std::string quoted(std::string_view text) {
@@ -41,7 +39,10 @@ class Reading {
 
 }  // namespace
 
-Session::Session(DatabaseHandle database) : database_(std::move(database)) { guard(*database_, work_); }
+Session::Session(DatabaseHandle database, const Bounds& bounds)
+    : bounds_(bounds), work_(bounds), database_(std::move(database)) {
+  guard(*database_, work_);
+}
 
 std::unique_ptr<toolkit::Rows> Session::run(const toolkit::Statement& statement) {
   try {
@@ -118,7 +119,7 @@ std::unique_ptr<toolkit::Rows> Session::rowsOf(Prepared& prepared) {
     prepared.columns = columnsOf(handle);
     prepared.preparations = now;
   }
-  auto rows = std::make_unique<Snapshot>(prepared.columns);
+  auto rows = std::make_unique<Snapshot>(prepared.columns, bounds_.answer);
   for (; result == SQLITE_ROW; result = sqlite3_step(handle)) rows->add(handle);
   if (result == SQLITE_INTERRUPT) refuse("it takes too much work");
   if (result != SQLITE_DONE) fail();
@@ -128,10 +129,10 @@ std::unique_ptr<toolkit::Rows> Session::rowsOf(Prepared& prepared) {
 std::shared_ptr<const Columns> Session::columnsOf(sqlite3_stmt* statement) const {
   Columns names;
   for (int i = 0; i < sqlite3_column_count(statement); ++i)
-    names.push_back(template_.columnName(sqlite3_column_name(statement, i)));
+    names.push_back(template_.asWritten(sqlite3_column_name(statement, i)));
   return std::make_shared<const Columns>(std::move(names));
 }
 
-void Session::fail() const { refuse(sqlite3_errmsg(database_.get())); }
+void Session::fail() const { throw Failure(FailureKind::Database, template_.asWritten(reasonOf(*database_))); }
 
 }  // namespace qvn::sqlite

@@ -1,6 +1,7 @@
 // An open SQLite database, and the statements that it has prepared.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -14,13 +15,16 @@
 
 namespace qvn::sqlite {
 
+/// How many prepared statements a session keeps: more than the library has.
+inline constexpr std::size_t kMostPrepared = 64;
+
 /// Runs statements as the driver says (driver.h). All rows are read when a statement is run; between two of them no
 /// transaction is open and no lock is held. Rows go on to be read when the session is gone.
 class Session final : public toolkit::Session {
  public:
   /// Takes an open database over, a database in memory for one, and puts all guards on it. Fails with "database", with
-  /// SQLite's words alone, if it cannot be read.
-  explicit Session(DatabaseHandle database);
+  /// the reason alone, if it cannot be read.
+  explicit Session(DatabaseHandle database, const Bounds& bounds = {});
 
   /// The cursor and lock types are not looked at: every answer is a snapshot.
   std::unique_ptr<toolkit::Rows> run(const toolkit::Statement& statement) override;
@@ -42,6 +46,7 @@ class Session final : public toolkit::Session {
   std::shared_ptr<const Columns> columnsOf(sqlite3_stmt* statement) const;
   [[noreturn]] void fail() const;
 
+  Bounds bounds_;
   Work work_;
   DatabaseHandle database_;
   StatementTemplate template_;

@@ -3,9 +3,7 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
-#include <new>
 
-#include "platforms/sqlite/guards.h"
 #include "qvn/shared/failure.h"
 #include "qvn/shared/names.h"
 
@@ -69,7 +67,7 @@ void Snapshot::add(sqlite3_stmt* statement) {
       case SQLITE_TEXT: {
         const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, i));
         const auto length = static_cast<TextLength>(sqlite3_column_bytes(statement, i));
-        if (text == nullptr) throw std::bad_alloc();
+        if (text == nullptr) throw Failure(FailureKind::Database, "there is no memory for a text");
         append(cells_, Cell::Text);
         append(cells_, length);
         cells_.insert(cells_.end(), text, text + length);
@@ -84,7 +82,7 @@ void Snapshot::add(sqlite3_stmt* statement) {
     }
   }
   ++rows_;
-  if (cells_.size() > kLargestAnswer) throw Failure(FailureKind::Database, "it gives more rows than can be held");
+  if (cells_.size() > mostBytes_) throw Failure(FailureKind::Database, "it gives more rows than can be held");
 }
 
 void Snapshot::next() {

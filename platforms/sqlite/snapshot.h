@@ -17,9 +17,12 @@ using Columns = std::vector<std::string>;
 /// All rows one behind the other in a single run of bytes: of each cell its kind, then its value.
 class Snapshot final : public toolkit::Rows {
  public:
-  explicit Snapshot(std::shared_ptr<const Columns> columns) : columns_(std::move(columns)) {}
+  /// An answer with these columns and no rows yet, whose rows may take so many bytes.
+  Snapshot(std::shared_ptr<const Columns> columns, std::size_t mostBytes)
+      : columns_(std::move(columns)), mostBytes_(mostBytes) {}
 
-  /// Copies the row that a statement stands on, which has these columns. "database" if the rows grow too many.
+  /// Copies the row that a statement stands on, which has these columns. "database" if the rows grow too many, or if
+  /// there is no memory for a text.
   void add(sqlite3_stmt* statement);
 
   bool atEnd() const override { return row_ == rows_; }
@@ -28,6 +31,7 @@ class Snapshot final : public toolkit::Rows {
 
  private:
   std::shared_ptr<const Columns> columns_;
+  std::size_t mostBytes_;
   std::vector<char> cells_;
   std::size_t rows_ = 0;
   std::size_t row_ = 0;

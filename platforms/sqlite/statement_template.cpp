@@ -1,5 +1,6 @@
 #include "platforms/sqlite/statement_template.h"
 
+#include <algorithm>
 #include <charconv>
 #include <system_error>
 
@@ -11,8 +12,40 @@ namespace qvn::sqlite {
 
 namespace {
 
-/// Multiplies by a real one before it divides. Spelled so that no statement is likely to hold it.
-constexpr std::string_view kDivision = "*1e0/";
+struct Replacement {
+  std::string_view written;
+  std::string_view by;  ///< spelled so that no statement is likely to hold it
+};
+
+/// Multiplies by a real one before it divides.
+constexpr Replacement kDivision{"/", "*1e0/"};
+constexpr Replacement kLike{"Like", "rEgExP"};
+
+/// The first token from a place on that is no blank.
+Token behindBlanks(std::string_view sql, std::size_t at) {
+  Token token = tokenAt(sql, at);
+  while (token.kind == TokenKind::Blank) token = tokenAt(sql, token.end);
+  return token;
+}
+
+/// Whether the pattern at a place is a literal of ASCII that says how a text begins or what it is, and nothing more.
+bool isPlainPattern(std::string_view sql, std::size_t at) {
+  const Token pattern = behindBlanks(sql, at);
+  if (pattern.kind != TokenKind::Text) return false;
+  switch (behindBlanks(sql, pattern.end).kind) {
+    case TokenKind::End:
+    case TokenKind::Close:
+    case TokenKind::Semicolon:
+    case TokenKind::Word:
+      break;
+    default:
+      return false;  // the literal may be but a part of it
+  }
+  const std::string_view text = sql.substr(at, pattern.end - 1 - at);
+  const auto* const special =
+      std::ranges::find_if(text, [](char c) { return c == '%' || c == '_' || static_cast<unsigned char>(c) >= 0x80; });
+  return special == text.end() || (*special == '%' && special + 1 == text.end());
+}
 
 /// Takes a literal to be bound; false if it has to stay where it is.
 bool take(std::string_view source, TokenKind kind, std::vector<Literal>& literals) {
@@ -32,11 +65,11 @@ bool take(std::string_view source, TokenKind kind, std::vector<Literal>& literal
 void StatementTemplate::read(std::string_view sql, bool binding) {
   text_.clear();
   literals_.clear();
-  divides_ = false;
+  renames_ = false;
   if (rewrite(sql, binding)) return;
   text_ = sql;
   literals_.clear();
-  divides_ = false;
+  renames_ = false;
 }
 
 bool StatementTemplate::rewrite(std::string_view sql, bool binding) {
@@ -64,15 +97,18 @@ bool StatementTemplate::rewrite(std::string_view sql, bool binding) {
       case TokenKind::Close:
         --depth;
         break;
-      case TokenKind::Word:
-        if (binding && depth == 0 && !filters) {
-          const std::string_view word = sql.substr(begin, end - begin);
-          filters = sameName(word, "where") || sameName(word, "having");
+      case TokenKind::Word: {
+        const std::string_view word = sql.substr(begin, end - begin);
+        if (binding && depth == 0 && !filters) filters = sameName(word, "where") || sameName(word, "having");
+        if (sameName(word, kLike.written) && !isPlainPattern(sql, end)) {
+          replace(begin, end, kLike.by);
+          renames_ = true;
         }
         break;
+      }
       case TokenKind::Division:
-        replace(begin, end, kDivision);
-        divides_ = true;
+        replace(begin, end, kDivision.by);
+        renames_ = true;
         break;
       case TokenKind::Text:
       case TokenKind::Integer:
@@ -89,15 +125,14 @@ bool StatementTemplate::rewrite(std::string_view sql, bool binding) {
   }
 }
 
-std::string StatementTemplate::columnName(std::string_view name) const {
-  std::string written;
-  while (divides_) {
-    const auto division = name.find(kDivision);
-    if (division == std::string_view::npos) break;
-    written.append(name.substr(0, division)).append("/");
-    name.remove_prefix(division + kDivision.size());
+std::string StatementTemplate::asWritten(std::string_view said) const {
+  std::string all(said);
+  if (!renames_) return all;
+  for (const auto& [written, by] : {kDivision, kLike}) {
+    for (auto at = all.find(by); at != std::string::npos; at = all.find(by, at + written.size()))
+      all.replace(at, by.size(), written);
   }
-  return written.append(name);
+  return all;
 }
 
 bool isBare(std::string_view text) {

@@ -20,6 +20,9 @@ struct Literal {
 /// A statement's text made ready for the database, its buffers used again from one statement to the next.
 ///
 /// - A division becomes one that gives a fraction.
+/// - Like becomes Regexp (like.h), but not before a beginning ('abc%') or a whole text that is a literal of ASCII:
+/// there
+///   the database's own gives the same answer, and may give it by an index.
 /// - A text or an integer right behind a comparison becomes a parameter, so that statements that differ in nothing else
 ///   share their text. This holds behind the first Where or Having outside of brackets only: what stands before may
 ///   name a column of the answer.
@@ -32,15 +35,15 @@ class StatementTemplate {
   const std::string& text() const { return text_; }
   const std::vector<Literal>& literals() const { return literals_; }
 
-  /// The name of a column of the answer, as it follows from the statement as it was written.
-  std::string columnName(std::string_view name) const;
+  /// What the database says, a column's name or a reason, as it follows from the statement as it was written.
+  std::string asWritten(std::string_view said) const;
 
  private:
   bool rewrite(std::string_view sql, bool binding);
 
   std::string text_;
   std::vector<Literal> literals_;
-  bool divides_ = false;
+  bool renames_ = false;  ///< what the database says may quote what was put in
 };
 
 /// Whether a text holds no statement: blanks, comments and semicolons at most.

@@ -9,6 +9,9 @@
 #include <stdexcept>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
+
+#include "platforms/sqlite/driver.h"
 
 namespace office_test {
 
@@ -101,20 +104,35 @@ std::vector<long long> Database::tenThousandths(std::string_view sql) const {
   return numbers;
 }
 
-std::vector<std::string> Database::plan(std::string_view sql) const {
-  std::vector<std::string> steps;
-  for (const Row& row : rows(std::string("EXPLAIN QUERY PLAN ").append(sql))) steps.push_back(row.at(3).value());
-  return steps;
+std::vector<std::string> Database::columns(std::string_view sql) const {
+  const Statement statement = prepare(sql);
+  std::vector<std::string> names;
+  for (int column = 0; column < sqlite3_column_count(statement.get()); ++column)
+    names.emplace_back(sqlite3_column_name(statement.get(), column));
+  return names;
 }
 
-const Database& sample(const std::string& storage) {
+namespace {
+
+struct Sample {
+  Database database;
+  std::unique_ptr<qvn::toolkit::Session> session;
+};
+
+const Sample& sampleIn(const std::string& storage) {
   static const Folder folder;
-  static std::map<std::string, Database> samples;
+  static std::map<std::string, Sample> samples;
   if (const auto made = samples.find(storage); made != samples.end()) return made->second;
   const std::string file = folder.file(storage + ".db");
   const Answer run = campione("'" + file + "' --storage " + storage);
   if (run.status != 0) throw std::runtime_error("no sample: " + run.errors);
-  return samples.emplace(storage, Database(file)).first->second;
+  auto session = qvn::sqlite::driver().open({.connectionString = "sqlite:" + file, .rest = file});
+  return samples.emplace(storage, Sample{Database(file), std::move(session)}).first->second;
 }
+
+}  // namespace
+
+const Database& sample(const std::string& storage) { return sampleIn(storage).database; }
+qvn::toolkit::Session& session(const std::string& storage) { return *sampleIn(storage).session; }
 
 }  // namespace office_test

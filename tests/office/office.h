@@ -1,6 +1,7 @@
 // What the tests of the sample office share: a folder of their own, the program run in it, and its database read.
 #pragma once
 
+#include <array>
 #include <filesystem>
 #include <memory>
 #include <optional>
@@ -8,6 +9,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "qvn/toolkit/database.h"
 
 namespace office_test {
 
@@ -51,13 +54,13 @@ class Database {
   explicit Database(const std::string& file);
 
   std::vector<Row> rows(std::string_view sql) const;
+  /// The names of the columns that a statement gives.
+  std::vector<std::string> columns(std::string_view sql) const;
   /// The first column of the first row, which must be there and not be Null.
   std::string text(std::string_view sql) const;
   long long number(std::string_view sql) const;
   /// The first column of every row, times 10,000, rounded to the nearest whole number.
   std::vector<long long> tenThousandths(std::string_view sql) const;
-  /// The steps of the plan by which a statement is run.
-  std::vector<std::string> plan(std::string_view sql) const;
 
  private:
   struct Close {
@@ -74,7 +77,12 @@ class Database {
   std::unique_ptr<sqlite3, Close> handle_;
 };
 
+inline constexpr std::array<const char*, 3> storages = {"numeric", "real", "text"};
+
 /// The sample at scale 1 in one of the storages, made when first asked for and removed when the tests end.
 const Database& sample(const std::string& storage = "numeric");
+
+/// The same as the panels read it, through the driver.
+qvn::toolkit::Session& session(const std::string& storage = "numeric");
 
 }  // namespace office_test

@@ -1,8 +1,10 @@
 // Keeping prepared statements changes nothing in what they answer.
 #include <gtest/gtest.h>
+#include <set>
 #include <string>
 #include <vector>
 
+#include "platforms/sqlite/session.h"
 #include "tests/sqlite/scratch.h"
 
 namespace qvn::test {
@@ -111,16 +113,35 @@ TEST(KeptStatements, TakeEachKeyAnew) {
   EXPECT_EQ(find("ADR"), (Answer{{"t Adriatica"}}));
 }
 
+/// The texts of a database's prepared statements.
+std::set<std::string> preparedIn(sqlite3* database) {
+  std::set<std::string> texts;
+  for (sqlite3_stmt* one = sqlite3_next_stmt(database, nullptr); one != nullptr; one = sqlite3_next_stmt(database, one))
+    texts.insert(sqlite3_sql(one));
+  return texts;
+}
+
 TEST(KeptStatements, GiveWayToNewerOnes) {
-  const ScratchFolder folder;
-  const auto session = opened(officeFile(folder));
+  Host host(":memory:");
+  host.exec(officeSchema());
+  sqlite3* const database = &host.database();
+  sqlite::Session session(host.release());
+  const auto find = [&](const std::string& name) {
+    EXPECT_EQ(answerOf(session, "Select IVA AS " + name + " From TIPI_IVA Where COD_IVA = 1", {name}),
+              (Answer{{"i 22"}}));
+    return "Select IVA AS " + name + " From TIPI_IVA Where COD_IVA = ?";
+  };
   for (int round = 0; round < 2; ++round) {
     for (int i = 0; i < 200; ++i) {
-      const auto name = std::string("C").append(std::to_string(i));
-      EXPECT_EQ(answerOf(*session, "Select IVA AS " + name + " From TIPI_IVA Where COD_IVA = 1", {name}),
-                (Answer{{"i 22"}}));
+      const auto newest = find(std::string("C").append(std::to_string(i)));
+      const auto usual = find("USUAL");
+      const auto prepared = preparedIn(database);
+      EXPECT_LE(prepared.size(), sqlite::kMostPrepared);
+      EXPECT_TRUE(prepared.contains(newest));
+      EXPECT_TRUE(prepared.contains(usual));
     }
   }
+  EXPECT_EQ(preparedIn(database).size(), sqlite::kMostPrepared);
 }
 
 TEST(KeptStatements, SeeTheHostsChanges) {

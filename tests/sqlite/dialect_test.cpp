@@ -116,6 +116,16 @@ TEST(Division, LeavesTheNameOfItsColumn) {
             (Answer{{"r 0.001", "r 0.01"}}));
 }
 
+TEST(Like, LeavesTheNameOfItsColumnAndItsPlaceInReasons) {
+  const ScratchFolder folder;
+  const auto session = opened(officeFile(folder));
+  EXPECT_EQ(answerOf(*session, "Select DENOMINAZIONE Like 'NICCOLÒ' From PRODUTTORI Order By COD_PROD",
+                     {"DENOMINAZIONE like 'NICCOLÒ'"}),
+            (Answer{{"i 0"}, {"i 1"}}));
+  EXPECT_EQ(databaseFailureOf([&] { session->run({.sql = "Select * Like"}); }),
+            "the statement cannot be run: near \"Like\": syntax error; Select * Like");
+}
+
 TEST(Statement, MayEndInBlanksSemicolonsAndComments) {
   const ScratchFolder folder;
   const auto session = opened(officeFile(folder));

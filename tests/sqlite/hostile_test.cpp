@@ -1,5 +1,4 @@
 // Whatever a statement or a key says, it reads at most.
-#include <filesystem>
 #include <gtest/gtest.h>
 #include <ostream>
 #include <string>
@@ -109,6 +108,7 @@ const Case kCases[]{
     {"PageAccess", "SELECT * FROM sqlite_dbpage"},
     {"Statistics", "SELECT * FROM dbstat"},
     {"OtherStatements", "SELECT * FROM sqlite_stmt"},
+    {"TableOfValues", "SELECT value FROM json_each('[1]')"},
     {"WriteLog", "SELECT sqlite_log(1, 'x')"},
     {"TempSchema", "SELECT * FROM sqlite_temp_master", Outcome::GivesRows},
     // Settings.
@@ -174,8 +174,7 @@ TEST_P(Hostile, LeavesTheFileAndItsFolderAsTheyWere) {
   Host(file).exec(
       "CREATE VIEW ELENCO AS SELECT DESCRIZIONE FROM MASTRI;"
       "CREATE TRIGGER ELENCO_NUOVO INSTEAD OF INSERT ON ELENCO BEGIN DELETE FROM CONTI; END");
-  const auto former = std::filesystem::current_path();
-  std::filesystem::current_path(folder.path());
+  const WorkingFolder working(folder);
   const auto before = folder.contents();
   {
     const auto session = opened(file);
@@ -191,7 +190,6 @@ TEST_P(Hostile, LeavesTheFileAndItsFolderAsTheyWere) {
               (Answer{{"t Generale"}}));
   }
   EXPECT_EQ(folder.contents(), before);
-  std::filesystem::current_path(former);
 }
 
 INSTANTIATE_TEST_SUITE_P(Statements, Hostile, testing::ValuesIn(kCases),

@@ -89,6 +89,30 @@ TEST(Like, AnswersAsTheDatabaseDoes) {
   }
 }
 
+TEST(Like, FindsABeginningByAnIndex) {
+  const test::ScratchFolder folder;
+  const std::string file = folder.file("like.db");
+  test::Host(file).exec(
+      "CREATE TABLE T (V TEXT); CREATE INDEX T_V ON T (V COLLATE NOCASE);"
+      "INSERT INTO T VALUES ('Rossi'), ('ROSSINI'), ('Rossò'), ('rosa'), ('Bianchi'), ('ÀBaco'), ('àbaco')");
+  const auto session = test::opened(file);
+  const auto planOf = [&](const std::string& pattern) {
+    return test::answerOf(*session, "Explain Query Plan Select V From T Where V Like " + pattern, {"detail"});
+  };
+  const auto found = [&](const std::string& pattern) {
+    return test::answerOf(*session, "Select V From T Where V Like " + pattern + " Order By rowid", {"V"});
+  };
+  const test::Answer byIndex{{"t SEARCH T USING COVERING INDEX T_V (V>? AND V<?)"}};
+  EXPECT_EQ(planOf("'ross%'"), byIndex);
+  EXPECT_EQ(planOf("'ROSSI'"), byIndex);
+  EXPECT_NE(planOf("'rossò%'"), byIndex);
+  EXPECT_NE(planOf("'ross_%'"), byIndex);
+  EXPECT_EQ(found("'ross%'"), (test::Answer{{"t Rossi"}, {"t ROSSINI"}, {"t Rossò"}}));
+  EXPECT_EQ(found("'ROSSI'"), (test::Answer{{"t Rossi"}}));
+  EXPECT_EQ(found("'ROSSÒ%'"), (test::Answer{{"t Rossò"}}));
+  EXPECT_EQ(found("'àb%'"), (test::Answer{{"t ÀBaco"}, {"t àbaco"}}));
+}
+
 TEST(Like, RefusesWhatItHasNoTimeFor) {
   const test::ScratchFolder folder;
   const auto session = test::opened(test::officeFile(folder));

@@ -2,8 +2,8 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <string>
+#include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include "platforms/sqlite/driver.h"
 #include "qvn/toolkit/database.h"
@@ -59,8 +59,7 @@ TEST(Opening, FailsOnWhatIsNoDatabaseAndCreatesNothing) {
 
 TEST(Opening, TakesAPathAsAPathWhateverItLooksLike) {
   const ScratchFolder folder;
-  const auto former = std::filesystem::current_path();
-  std::filesystem::current_path(folder.path());
+  const WorkingFolder working(folder);
   for (const std::string name :
        {"plain.db", "file:x?mode=rwc&cache=shared", ":memory:", "a b#c%41&d=e.db", "però.db"}) {
     writeFile(folder.path() / name, "");
@@ -70,7 +69,6 @@ TEST(Opening, TakesAPathAsAPathWhateverItLooksLike) {
     EXPECT_EQ(answerOf(*opened(folder.file(name)), "Select A From T", {"A"}), (Answer{{"t " + name}}));
   }
   EXPECT_EQ(folder.contents().size(), 5U);
-  std::filesystem::current_path(former);
 }
 
 TEST(Opening, TakesAnEmptyFileForADatabaseWithoutTables) {
@@ -82,13 +80,32 @@ TEST(Opening, TakesAnEmptyFileForADatabaseWithoutTables) {
   EXPECT_EQ(folder.contents(), (std::map<std::string, std::string>{{"empty.db", ""}}));
 }
 
-TEST(Opening, FailsOnAFileThatMayNotBeRead) {
+/// The process opens no further file for as long as this lives. Unlike a file's rights, that holds for root too.
+class NoMoreFiles {
+ public:
+  NoMoreFiles() {
+    getrlimit(RLIMIT_NOFILE, &former_);
+    const rlimit none{.rlim_cur = 0, .rlim_max = former_.rlim_max};
+    setrlimit(RLIMIT_NOFILE, &none);
+  }
+  ~NoMoreFiles() { setrlimit(RLIMIT_NOFILE, &former_); }
+  NoMoreFiles(const NoMoreFiles&) = delete;
+  NoMoreFiles& operator=(const NoMoreFiles&) = delete;
+
+ private:
+  rlimit former_{};
+};
+
+TEST(Opening, FailsWithTheSystemsReasonOnAFileThatCannotBeOpened) {
   const ScratchFolder folder;
   const std::string file = officeFile(folder);
-  ASSERT_EQ(chmod(file.c_str(), 0), 0);
-  // The administrator may read it all the same.
-  const bool readable = access(file.c_str(), R_OK) == 0;
-  EXPECT_EQ(failureOfOpening(file), readable ? "" : message(file, "unable to open database file: Permission denied"));
+  std::string failure;
+  {
+    const NoMoreFiles none;
+    failure = failureOfOpening(file);
+  }
+  EXPECT_EQ(failure, message(file, "unable to open database file: Too many open files"));
+  EXPECT_EQ(failureOfOpening(file), "");
 }
 
 TEST(Opening, NeedsNoRightToWrite) {
@@ -103,6 +120,7 @@ TEST(Opening, NeedsNoRightToWrite) {
 TEST(Opening, FailsOnAChangeThatBrokeOffAndLeavesItToTheHost) {
   const ScratchFolder folder;
   const ScratchFolder left;
+  const auto earlier = opened(officeFile(left));
   {
     Host host(officeFile(folder));
     // A small cache makes the change reach the file before it is committed.
@@ -115,7 +133,10 @@ TEST(Opening, FailsOnAChangeThatBrokeOffAndLeavesItToTheHost) {
   const auto before = left.contents();
   ASSERT_EQ(before.size(), 2U);
   EXPECT_EQ(failureOfOpening(left.file("office.db")),
-            message(left.file("office.db"), "attempt to write a readonly database"));
+            message(left.file("office.db"), "a program that broke off left the database in the middle of a change"));
+  EXPECT_EQ(databaseFailureOf([&] { earlier->run({.sql = "Select IVA From TIPI_IVA"}); }),
+            "the statement cannot be run: a program that broke off left the database in the middle of a change; Select "
+            "IVA From TIPI_IVA");
   EXPECT_EQ(left.contents(), before);
   // The host takes the broken change back, and the file can be read again.
   Host(left.file("office.db")).exec("SELECT * FROM T");

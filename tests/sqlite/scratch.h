@@ -32,6 +32,20 @@ class ScratchFolder {
   std::filesystem::path path_;
 };
 
+/// Relative paths start in a folder for as long as this lives.
+class WorkingFolder {
+ public:
+  explicit WorkingFolder(const ScratchFolder& folder) : former_(std::filesystem::current_path()) {
+    std::filesystem::current_path(folder.path());
+  }
+  ~WorkingFolder() { std::filesystem::current_path(former_); }
+  WorkingFolder(const WorkingFolder&) = delete;
+  WorkingFolder& operator=(const WorkingFolder&) = delete;
+
+ private:
+  std::filesystem::path former_;
+};
+
 void writeFile(const std::filesystem::path& file, std::string_view bytes);
 
 /// A host's own connection, which may write. It waits for nobody.

@@ -123,6 +123,7 @@ std::string soup(std::mt19937& random) {
 /// The statement that a template was made of.
 std::string putBack(const sqlite::StatementTemplate& statement) {
   constexpr std::string_view kDivision = "*1e0/";
+  constexpr std::string_view kLike = "rEgExP";
   const std::string_view text = statement.text();
   std::string sql;
   auto literal = statement.literals().begin();
@@ -134,6 +135,9 @@ std::string putBack(const sqlite::StatementTemplate& statement) {
     } else if (text.substr(at).starts_with(kDivision)) {
       sql += '/';
       at += kDivision.size();
+    } else if (text.substr(at, end - at) == kLike) {
+      sql += "Like";
+      at = end;
     } else {
       sql += text.substr(at, end - at);
       at = end;

@@ -58,6 +58,19 @@ TEST(StatementTemplate, TakesOutWhatIsComparedWith) {
       {"Select A/1000 From T", "Select A*1e0/1000 From T", {}},
       {"Select 'a/b', [a/b], \"a/b\" /* / */ From T -- /", "Select 'a/b', [a/b], \"a/b\" /* / */ From T -- /", {}},
       {"Select A From T Where B = 5/2", "Select A From T Where B = ?*1e0/2", {"5"}},
+      // A pattern that the database's own Like takes as the driver's does, and others.
+      {"Select A From T Where B lIKE /* % */'X%'", "Select A From T Where B rEgExP /* % */'X%'", {}},
+      {"Select A From T Where (B like 'it''s a%') Or B Like'' And C Like '%' Or B Like 'X';",
+       "Select A From T Where (B like 'it''s a%') Or B Like'' And C Like '%' Or B Like 'X';",
+       {}},
+      {"Select A From T Where B like 'X_%' Or B Like '%X' Or B Like 'X%%' Or B Not Like 'è%' Or B Like C Or B Like 1",
+       "Select A From T Where B rEgExP 'X_%' Or B rEgExP '%X' Or B rEgExP 'X%%' Or B Not rEgExP 'è%' Or B rEgExP C Or "
+       "B rEgExP 1",
+       {}},
+      {"Select A From T Where B Like 'X' || 'è' Or B Like ('X%') Or like('X%', B)",
+       "Select A From T Where B rEgExP 'X' || 'è' Or B rEgExP ('X%') Or rEgExP('X%', B)",
+       {}},
+      {"Select [Like], \"Like\", 'Like', Likely From T", "Select [Like], \"Like\", 'Like', Likely From T", {}},
       // What is not understood stays whole.
       {"Select A/2 From T Where B = 'X", "Select A/2 From T Where B = 'X", {}},
       {"Select A/2 From T Where B = 'X' And C = ?", "Select A/2 From T Where B = 'X' And C = ?", {}},
