@@ -32,14 +32,13 @@ Formatter italian() {
 void icuFormatDouble(benchmark::State& state) {
   const Formatter formatter = italian();
   doubles();
-  std::array<UChar, 4> euro{u'E', u'U', u'R', 0};
   Text text{};
   Turn turn;
   const Counting counting(state);
   for ([[maybe_unused]] auto _ : state) {
     UErrorCode error = U_ZERO_ERROR;
-    benchmark::DoNotOptimize(unum_formatDoubleCurrency(formatter.get(), doubles()[turn.next()], euro.data(),
-                                                       text.data(), text.size(), nullptr, &error));
+    benchmark::DoNotOptimize(
+        unum_formatDouble(formatter.get(), doubles()[turn.next()], text.data(), text.size(), nullptr, &error));
     must(error);
   }
 }

@@ -5,7 +5,8 @@
 // brackets. A decimal sign may stand first or last. Grouping signs must stand where groups of three end, behind a first
 // group that does not begin with 0: "1.2" and "0.123" are no numbers. Each digit counts, however many there are. A text
 // that is no number, the empty text included, is a "type mismatch" whose message quotes it; a number too large for its
-// target is an "overflow". A double that is infinite is an "overflow" too, and one that is no number a "type mismatch".
+// target is an "overflow". A double that is infinite is an "overflow" too, and one that is no number a "type mismatch";
+// as a double it stays what it is, and as a boolean an infinite one is true.
 #pragma once
 
 #include <cstdint>
@@ -53,10 +54,10 @@ double leadingNumber(std::string_view text);
 ///
 /// Null fails with "invalid use of null"; Empty gives "" or 0; a text is parsed as above; true is -1 as a number, and
 /// as a boolean zero is false, any other number true, "True" and "False" in any case what they say; a date counts its
-/// days, and a number as a date is so many days, its decimals dropped; a text as a date is "dd/mm/yyyy" or "0.00.00".
-/// As text, numbers and dates give their general text, a boolean "True" or "False". A number out of range is an
-/// "overflow"; what cannot become the target, an array as anything else or anything else as an array, is a "type
-/// mismatch".
+/// days, and a number as a date is so many days, its decimals (a double's among its 15 significant digits) dropped; a
+/// text as a date is "dd/mm/yyyy" or "0.00.00". As text, numbers and dates give their general text, a boolean "True" or
+/// "False". A number out of range is an "overflow"; what cannot become the target, an array as anything else or
+/// anything else as an array, is a "type mismatch".
 template <class Target>
 Target as(const Variant& value, const Locale& locale);
 

@@ -2,11 +2,13 @@
 #pragma once
 
 #include <compare>
+#include <concepts>
 #include <cstdint>
 
 namespace qvn {
 
-/// A currency amount as a signed 64-bit count of ten-thousandths: ±922 337 203 685 477,5807.
+/// A currency amount as a signed 64-bit count of ten-thousandths: -922 337 203 685 477,5808 to 922 337 203 685
+/// 477,5807.
 ///
 /// Sums, differences and comparisons are exact; a sum that does not fit fails with "overflow". A double does not mix
 /// with a currency: products and quotients go through toDouble() and come back through toCurrency() (conversions.h).
@@ -16,9 +18,11 @@ class Currency {
 
   /// The amount of so many ten-thousandths: fromTenThousandths(12'500) is 1,25.
   static constexpr Currency fromTenThousandths(std::int64_t count) { return Currency(count); }
+  static Currency fromTenThousandths(std::floating_point auto count) = delete;  ///< use toCurrency()
 
   /// A whole amount. Fails with "overflow" beyond ±922 337 203 685 477.
   static Currency of(std::int64_t whole);
+  static Currency of(std::floating_point auto number) = delete;  ///< use toCurrency()
 
   constexpr std::int64_t tenThousandths() const { return count_; }
 

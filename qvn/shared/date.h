@@ -2,6 +2,7 @@
 #pragma once
 
 #include <compare>
+#include <concepts>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -21,6 +22,7 @@ class Date {
 
   /// Fails with "overflow" outside the years 100 to 9999.
   static Date fromDays(std::int32_t days);
+  static Date fromDays(std::floating_point auto days) = delete;  ///< use as<Date>()
 
   constexpr std::int32_t days() const { return days_; }
   int day() const;

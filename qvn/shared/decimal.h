@@ -3,6 +3,7 @@
 
 #include <array>
 #include <compare>
+#include <concepts>
 #include <cstdint>
 
 #include "qvn/shared/currency.h"
@@ -21,6 +22,7 @@ class Decimal {
   static Decimal of(Magnitude magnitude, int scale, bool negative);
   static Decimal of(std::int64_t whole);
   static Decimal of(Currency amount);
+  static Decimal of(std::floating_point auto number) = delete;  ///< use as<Decimal>()
 
   constexpr const Magnitude& magnitude() const { return magnitude_; }
   constexpr int scale() const { return scale_; }

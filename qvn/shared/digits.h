@@ -25,8 +25,8 @@ struct Digits {
   int count = 0;              ///< of significant digits in the head
   std::uint64_t head = 0;     ///< the first significant digits
   std::int64_t exponent = 0;  ///< of the head's last digit: 0 for units, -2 for hundredths
-  std::string_view tail =
-      {};  ///< the digits behind a full head, with the signs between them; the text's owner keeps it
+  /// The digits behind a full head, with the decimal and grouping signs between them; the text's owner keeps it.
+  std::string_view tail = {};
 
   bool isZero() const { return head == 0; }
   /// How many significant digits stand before the decimal sign; below 0, how many zeros stand behind it.
@@ -54,8 +54,9 @@ std::optional<Digits> digitsOf(std::string_view text, const Locale& locale);
 /// The digits of the plain number that a text starts with, the point as its decimal sign; nothing if there is none.
 std::optional<Digits> leadingDigits(std::string_view text);
 
-/// The value's 15 significant digits, without the zeros at their end: the number of 15 digits that lies nearest. An
-/// infinite value fails with "overflow", and one that is no number with "type mismatch".
+/// The value's 15 significant digits, without the zeros at their end: the number of 15 digits that lies nearest; of
+/// the largest doubles, whose nearest is no double any more, the one below it. An infinite value fails with "overflow",
+/// and one that is no number with "type mismatch".
 Digits digitsOf(double value);
 
 /// The digits of count × 10^-scale.

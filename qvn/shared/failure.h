@@ -7,6 +7,7 @@
 
 namespace qvn {
 
+/// What kind of thing went wrong.
 enum class FailureKind {
   TypeMismatch,
   Overflow,

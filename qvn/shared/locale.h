@@ -14,6 +14,10 @@ enum class NegativeForm : std::uint8_t {
 };
 
 /// The number and currency forms of an office; as default the Italian ones: "€ 1.234,56", "-€ 1.234,56".
+///
+/// The signs are ASCII punctuation other than "+-()", and differ; the grouping sign may also be a blank, or '\0' for no
+/// grouping. The symbol begins with no digit, blank or bracket, and with no sign. The pattern "Currency" fails with
+/// "invalid call" under a locale that is otherwise.
 struct Locale {
   char decimalSign = ',';
   char groupingSign = '.';

@@ -8,6 +8,7 @@
 
 #include "qvn/shared/digits.h"
 #include "qvn/shared/failure.h"
+#include "qvn/shared/number_targets.h"
 
 namespace qvn {
 
@@ -62,6 +63,7 @@ char* putBackwards(char* end, std::uint64_t number, std::size_t atLeast) {
 }
 
 char* putGrouped(char* to, std::string_view whole, char groupingSign) {
+  if (groupingSign == '\0') return put(to, whole);
   const std::size_t first = (whole.size() - 1) % 3 + 1;
   to = put(to, whole.substr(0, first));
   for (std::size_t at = first; at < whole.size(); at += 3) {
@@ -113,21 +115,57 @@ char* putCurrency(char* to, const Scaled& number, const Locale& locale) {
   throw Failure(FailureKind::InvalidCall, "a number has no text under the pattern of a date");
 }
 
-[[noreturn]] void badLocale(const Locale& locale) {
-  if (locale.symbol.size() > kLongestSymbol) {
-    throw Failure(FailureKind::InvalidCall, std::string("the currency symbol \"")
-                                                .append(locale.symbol.substr(0, kLongestSymbol))
-                                                .append("…\" is longer than 64 bytes"));
+/// The ASCII characters that can part digits without being read as something else.
+constexpr auto kPartingSigns = [] {
+  std::array<bool, 256> signs{};
+  for (char c : std::string_view("!\"#$%&'*,./:;<=>?@[\\]^_`{|}~")) signs[static_cast<unsigned char>(c)] = true;
+  return signs;
+}();
+
+bool isPartingSign(char c) { return kPartingSigns[static_cast<unsigned char>(c)]; }
+
+/// Whether a text may begin with the symbol and is still read as one.
+bool isSymbol(const Locale& locale) {
+  const std::string_view symbol = locale.symbol;
+  if (symbol.empty()) return true;
+  constexpr std::string_view kReadAsOther = "0123456789+-() \t";
+  const char first = symbol.front();
+  if (first == locale.decimalSign || first == locale.groupingSign) return false;
+  if (kReadAsOther.find(first) != std::string_view::npos) return false;
+  return !symbol.starts_with("\u00A0") && !symbol.starts_with("\u202F");
+}
+
+std::string shown(char sign) {
+  return sign > ' ' && sign < '\x7F' ? quoted({&sign, 1}) : "of code " + std::to_string(int{sign});
+}
+
+/// Fails on a locale whose amounts would not read back.
+void checkAmounts(const Locale& locale) {
+  const auto fail = [](const std::string& message) { throw Failure(FailureKind::InvalidCall, message); };
+  if (locale.currencyDecimals > kCurrencyScale) {
+    fail("a locale has 0 to 4 currency decimals, not " + std::to_string(static_cast<int>(locale.currencyDecimals)));
   }
-  throw Failure(FailureKind::InvalidCall, "a locale has 0 to 4 currency decimals, not " +
-                                              std::to_string(static_cast<int>(locale.currencyDecimals)));
+  if (locale.symbol.size() > kLongestSymbol) {
+    fail("the currency symbol " + quoted(locale.symbol) + " is longer than 64 bytes");
+  }
+  if (!isSymbol(locale)) {
+    fail("the currency symbol " + quoted(locale.symbol) + " begins with what is read as part of a number");
+  }
+  if (!isPartingSign(locale.decimalSign)) {
+    fail("the character " + shown(locale.decimalSign) + " is no decimal sign");
+  }
+  const char grouping = locale.groupingSign;
+  if (grouping == locale.decimalSign || (grouping != '\0' && grouping != ' ' && !isPartingSign(grouping))) {
+    fail("the character " + shown(grouping) + " is no grouping sign beside the decimal sign " +
+         shown(locale.decimalSign));
+  }
 }
 
 /// The decimals of a number pattern that has them.
 int decimalsOf(Pattern pattern, const Locale& locale) {
   if (pattern == Pattern::TwoDecimals) return 2;
   if (pattern != Pattern::Currency) noNumberPattern();
-  if (locale.currencyDecimals > kCurrencyScale || locale.symbol.size() > kLongestSymbol) badLocale(locale);
+  checkAmounts(locale);
   return locale.currencyDecimals;
 }
 
@@ -225,7 +263,7 @@ std::uint64_t withoutPlaces(std::uint64_t count, int places) {
 
 }  // namespace
 
-bool canWrite(const Digits& digits) { return digits.point() <= kMostWholeDigits; }
+bool canWrite(const Digits& digits) { return digits.isZero() || digits.point() <= kMostWholeDigits; }
 
 void write(FormattedText& text, const Digits& digits, Pattern pattern, const Locale& locale) {
   const int decimals = decimalsOf(pattern, locale);

@@ -38,12 +38,21 @@ std::optional<Target> numberAs(const Digits& digits) {
 /// A number type and its range, in words for messages.
 template <class Target>
 constexpr std::string_view rangeName() {
-  if constexpr (std::is_same_v<Target, Currency>) return "a currency amount (±922337203685477,5807)";
-  if constexpr (std::is_same_v<Target, Decimal>) return "a decimal (96 bits)";
-  if constexpr (std::is_same_v<Target, double>) return "a double";
-  if constexpr (std::is_same_v<Target, std::uint8_t>) return "an 8-bit unsigned integer (0 to 255)";
-  if constexpr (std::is_same_v<Target, std::int16_t>) return "a 16-bit integer (-32768 to 32767)";
-  if constexpr (std::is_same_v<Target, std::int32_t>) return "a 32-bit integer (-2147483648 to 2147483647)";
+  if constexpr (std::is_same_v<Target, Currency>) {
+    return "a currency amount (-922337203685477,5808 to 922337203685477,5807)";
+  } else if constexpr (std::is_same_v<Target, Decimal>) {
+    return "a decimal (96 bits)";
+  } else if constexpr (std::is_same_v<Target, double>) {
+    return "a double";
+  } else if constexpr (std::is_same_v<Target, std::uint8_t>) {
+    return "an 8-bit unsigned integer (0 to 255)";
+  } else if constexpr (std::is_same_v<Target, std::int16_t>) {
+    return "a 16-bit integer (-32768 to 32767)";
+  } else if constexpr (std::is_same_v<Target, std::int32_t>) {
+    return "a 32-bit integer (-2147483648 to 2147483647)";
+  } else {
+    static_assert(!sizeof(Target), "this type has no range in words");
+  }
 }
 
 /// A text between quotes, cut if it is long.

@@ -69,7 +69,9 @@ class Reader {
   }
 
  private:
-  bool atGroup(char groupingSign) const { return at(groupingSign) && end_ - at_ > 1 && isDigit(at_[1]); }
+  bool atGroup(char groupingSign) const {
+    return groupingSign != '\0' && at(groupingSign) && end_ - at_ > 1 && isDigit(at_[1]);
+  }
 
   const char* at_;
   const char* end_;

@@ -1,8 +1,8 @@
 // Values as texts under the patterns of the fields: "Currency", "0.00", the dates, and the general text.
 //
 // Numbers round to the decimals of the pattern, ties away from zero; a double is first read by its 15 significant
-// digits, so that 600.04 / 100 * 12.5 shows 75,01. What rounds to zero has no sign. Formatting allocates nothing. A
-// locale with more than 4 currency decimals or a symbol of more than 64 bytes fails with "invalid call".
+// digits, so that 600.04 / 100 * 12.5 shows 75,01. What rounds to zero has no sign. format() allocates nothing. Under
+// Currency, a locale that is not as locale.h says fails with "invalid call".
 #pragma once
 
 #include <array>
@@ -19,6 +19,7 @@
 
 namespace qvn {
 
+/// How a number or a date is written.
 enum class Pattern : std::uint8_t {
   General,       ///< no pattern: the number's general text
   Currency,      ///< "Currency": symbol, grouping, the locale's decimals
@@ -31,7 +32,8 @@ enum class Pattern : std::uint8_t {
 /// The pattern of a name, without regard to case; the empty name is General. Fails with "invalid call" on others.
 Pattern patternNamed(std::string_view name);
 
-/// A short text in place, without allocation; long enough for any double under "Currency".
+/// A short text in place, without allocation; long enough for any double under "Currency". Its views live as long as it
+/// does: hand a temporary one on as an argument, but keep it by str().
 class FormattedText {
  public:
   static constexpr std::size_t kCapacity = 512;

@@ -45,20 +45,13 @@ Standing standingOf(const Variant& value) {
   return Standing::Number;
 }
 
-/// The value of a kind that a double holds exactly; not of an amount or a decimal.
-std::optional<double> exactDouble(const Variant& value) {
-  if (const auto* number = std::get_if<double>(&value)) return *number;
-  if (std::holds_alternative<Currency>(value) || std::holds_alternative<Decimal>(value)) return std::nullopt;
-  return nearestDouble(*VariantNumber(value).digits());
-}
-
 std::partial_ordering compareNumbers(const Variant& a, const Variant& b) {
-  const auto ofA = exactDouble(a);
-  const auto ofB = exactDouble(b);
-  if (ofA && ofB) return *ofA <=> *ofB;
+  const auto* ofA = std::get_if<double>(&a);
+  const auto* ofB = std::get_if<double>(&b);
+  if (ofA != nullptr && ofB != nullptr) return *ofA <=> *ofB;
   // Any finite number stands to a value that is infinite or no number as 0 does.
-  if (ofA && !std::isfinite(*ofA)) return *ofA <=> 0.0;
-  if (ofB && !std::isfinite(*ofB)) return 0.0 <=> *ofB;
+  if (ofA != nullptr && !std::isfinite(*ofA)) return *ofA <=> 0.0;
+  if (ofB != nullptr && !std::isfinite(*ofB)) return 0.0 <=> *ofB;
   const VariantNumber left(a);
   const VariantNumber right(b);
   return order(*left.digits(), *right.digits());

@@ -47,9 +47,10 @@ inline bool isEmpty(const Variant& value) { return std::holds_alternative<Empty>
 std::string_view kindName(const Variant& value);
 
 /// How two values stand to each other. Unordered where either is Null: every test on it is then false. Empty compares
-/// as the empty text with a text and as 0 otherwise; numbers, booleans and dates compare by value, a double with an
-/// amount or a decimal by its 15 significant digits; texts compare exactly; a number stands before any text. Equal
-/// arrays are equivalent, and an array is unordered to anything else.
+/// as the empty text with a text and as 0 otherwise; numbers, booleans and dates compare by value, two doubles exactly
+/// and a double with any other by its 15 significant digits, so that doubles which differ may both equal one amount;
+/// texts compare exactly; a number stands before any text. Equal arrays are equivalent, and an array is unordered to
+/// anything else.
 std::partial_ordering compare(const Variant& a, const Variant& b);
 
 }  // namespace qvn

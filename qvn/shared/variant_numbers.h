@@ -14,6 +14,8 @@ namespace qvn {
 class VariantNumber {
  public:
   explicit VariantNumber(const Variant& value);
+  VariantNumber(const VariantNumber&) = delete;  // its digits may lie in its room
+  VariantNumber& operator=(const VariantNumber&) = delete;
 
   const std::optional<Digits>& digits() const { return digits_; }
 

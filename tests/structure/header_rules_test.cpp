@@ -1,5 +1,5 @@
-// Every header says at its head what it is for, and may be included twice. That each compiles alone is seen by the
-// build.
+// Every header says at its head what it is for, and may be included twice. That each one of the library, the platforms
+// and the hosts compiles alone is seen by the build.
 #include <array>
 #include <gtest/gtest.h>
 #include <string>

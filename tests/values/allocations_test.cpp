@@ -1,31 +1,14 @@
 // Writing and reading numbers takes no memory.
+#include "tests/allocations.h"
+
 #include <compare>
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <limits>
-#include <new>
 #include <string>
 #include <vector>
 
 #include "qvn/shared/conversions.h"
 #include "qvn/shared/patterns.h"
-
-namespace {
-
-std::size_t allocations = 0;
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  ++allocations;
-  if (void* memory = std::malloc(size)) return memory;  // NOLINT
-  throw std::bad_alloc();
-}
-void* operator new[](std::size_t size) { return operator new(size); }
-void operator delete(void* memory) noexcept { std::free(memory); }                 // NOLINT
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }    // NOLINT
-void operator delete[](void* memory) noexcept { std::free(memory); }               // NOLINT
-void operator delete[](void* memory, std::size_t) noexcept { std::free(memory); }  // NOLINT
 
 namespace qvn {
 namespace {
@@ -33,17 +16,17 @@ namespace {
 const Locale kItalian;
 
 template <class Work>
-std::size_t allocationsOf(const Work& work) {
-  const std::size_t before = allocations;
+std::int64_t allocationsOf(const Work& work) {
+  const std::int64_t before = test::allocationCount();
   work();
-  return allocations - before;
+  return test::allocationCount() - before;
 }
 
 TEST(Allocations, AreCounted) {
   volatile std::size_t size = 100;  // so that no compiler does without the text
   std::string text;
-  EXPECT_EQ(allocationsOf([&] { text = std::string(size, 'x'); }), 1U);
-  EXPECT_EQ(allocationsOf([&] { text.front() = 'y'; }), 0U);
+  EXPECT_EQ(allocationsOf([&] { text = std::string(size, 'x'); }), 1);
+  EXPECT_EQ(allocationsOf([&] { text.front() = 'y'; }), 0);
   EXPECT_EQ(text.size(), 100U);
 }
 
@@ -77,7 +60,7 @@ TEST(Allocations, FormattingMakesNone) {
                 written += format(Date::fromDays(46'000), pattern).view().size();
               }
             }),
-            0U);
+            0);
   EXPECT_GT(written, 1'000U);
 }
 
@@ -95,7 +78,7 @@ TEST(Allocations, ReadingMakesNone) {
               sum += isNumber("no number", kItalian) ? 1 : 0;
               sum += dateOf("15/11/2026")->day();
             }),
-            0U);
+            0);
   EXPECT_GT(sum, 1'000.0);
 }
 
@@ -112,7 +95,7 @@ TEST(Allocations, ConvertingVariantsOfNumbersMakesNone) {
                 for (const Variant& other : values) sum += std::is_lt(compare(value, other)) ? 1 : 0;
               }
             }),
-            0U);
+            0);
   EXPECT_GT(sum, 50.0);
 }
 

@@ -74,15 +74,32 @@ TEST(Compare, NumbersCompareByValue) {
   expect(*Date::of(1, 1, 2026), kLess, *Date::of(2, 1, 2026));
 }
 
-TEST(Compare, ADoubleMeetsAnAmountByItsFifteenDigits) {
+TEST(Compare, ADoubleMeetsAnyOtherNumberByItsFifteenDigits) {
+  const double aboveOne = 1.0000000000000002;
+  const double belowDay = 45'999.999999999993;  // 46000 in 15 digits
+  expect(aboveOne, kSame, std::uint8_t{1});
+  expect(aboveOne, kSame, std::int16_t{1});
+  expect(aboveOne, kSame, std::int32_t{1});
+  expect(aboveOne, kSame, amount(10'000));
+  expect(aboveOne, kSame, Decimal::of(1));
+  expect(aboveOne, kSame, Date::fromDays(1));
+  expect(-aboveOne, kSame, true);
+  expect(belowDay, kSame, Date::fromDays(46'000));
+  expect(belowDay, kSame, std::int32_t{46'000});
+  expect(1.00000000000001, kGreater, std::int32_t{1});
   expect(0.1, kSame, amount(1'000));
   expect(600.04 / 100 * 12.5, kSame, amount(750'050));
   expect(600.04 / 100 * 12.5, kSame, Decimal::of({75'005, 0, 0}, 3, false));
   expect(0.1 + 0.2, kSame, amount(3'000));
-  expect(0.1 + 0.2, kGreater, 0.3);
   expect(1e300, kGreater, amount(std::numeric_limits<std::int64_t>::max()));
   expect(-1e300, kLess, Decimal());
   expect(1e-300, kGreater, Decimal());
+}
+
+TEST(Compare, TwoDoublesCompareExactly) {
+  expect(0.1 + 0.2, kGreater, 0.3);
+  expect(1.0000000000000002, kGreater, 1.0);
+  expect(0.0, kSame, -0.0);
 }
 
 TEST(Compare, EachDigitOfAmountsAndDecimalsCounts) {

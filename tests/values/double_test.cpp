@@ -1,4 +1,5 @@
 // Doubles against arithmetic on their exact decimal digits.
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstring>
@@ -30,6 +31,7 @@ void expectAgreement(double value) {
   const std::string units = test::inUnits(digits, 4, ModelTies::ToEven);
   if (test::fits64Bits(units)) {
     ASSERT_EQ(std::to_string(toCurrency(value).tenThousandths()), units) << value;
+    ASSERT_EQ(std::to_string(as<Currency>(value, kItalian).tenThousandths()), units) << value;
   } else {
     ASSERT_TRUE(test::failsWith(FailureKind::Overflow, "does not fit a currency", [&] { (void)toCurrency(value); }));
   }
@@ -38,6 +40,12 @@ void expectAgreement(double value) {
   const bool fits32 = whole.size() < 12 && std::abs(std::stoll(whole) * 2 + 1) <= 4'294'967'295;
   if (fits32) {
     ASSERT_EQ(std::to_string(toInt32(value)), whole) << value;
+    ASSERT_EQ(std::to_string(as<std::int32_t>(value, kItalian)), whole) << value;
+    const std::int32_t as16 = static_cast<std::int16_t>(toInt32(value));
+    if (as16 == toInt32(value)) {
+      ASSERT_EQ(toInt16(value), as16) << value;
+      ASSERT_EQ(as<std::int16_t>(value, kItalian), as16) << value;
+    }
   } else {
     ASSERT_TRUE(test::failsWith(FailureKind::Overflow, "does not fit a 32-bit", [&] { (void)toInt32(value); }));
   }
@@ -74,7 +82,9 @@ TEST(Double, TiesOfFifteenDigitsAgreeWithTheModel) {
     const std::uint64_t size = std::uint64_t{1} << (random() % 47);
     const auto count = static_cast<double>(random() % size * 10 + 5);
     const double value = count / powers.at(random() % powers.size());
+    const double near = std::nextafter(value, i % 3 == 0 ? 0 : value + 1);
     expectAgreement(i % 2 == 0 ? value : -value);
+    expectAgreement(i % 2 == 0 ? near : -near);
     if (HasFatalFailure()) return;
   }
 }
@@ -119,6 +129,9 @@ TEST(Double, ToIntegersRoundsTiesToEven) {
   EXPECT_EQ(toInt16(3.5), 4);
   EXPECT_EQ(toInt16(-2.5), -2);
   EXPECT_EQ(toInt16(-3.5), -4);
+  EXPECT_EQ(toInt16(3.4999999999999996), 4);
+  EXPECT_EQ(toInt32(3.4999999999999996), 4);
+  EXPECT_EQ(toInt32(2.5000000000000004), 2);
   EXPECT_EQ(toInt16(32767.4), 32'767);
   EXPECT_EQ(toInt16(-32768.5), -32'768);
   EXPECT_EQ(toInt32(2147483647.4), 2'147'483'647);
@@ -161,6 +174,42 @@ TEST(Double, OfATextIsTheNearest) {
     const int exponent = static_cast<int>(random() % 80) - 60;
     const std::string text = digits + "E" + std::to_string(exponent);
     ASSERT_TRUE(test::isNearest(toDouble(text, kItalian), {false, digits, exponent})) << text;
+  }
+}
+
+TEST(Double, OfATextBetweenTwoOfTheSmallestTakesEachDigit) {
+  std::mt19937_64 random(767);
+  std::size_t most = 0;
+  for (int i = 0; i < 200; ++i) {
+    // The smallest normal doubles and those below: the bits count units of 2^-1074.
+    const std::uint64_t bits = i % 2 == 0 ? random() >> 11 : random() >> (12 + random() % 52);
+    double below = 0;
+    std::memcpy(&below, &bits, sizeof below);
+    const double above = std::nextafter(below, 1);
+    const Exact middle = test::middle(below, above);
+    const std::size_t first = middle.digits.find_first_not_of('0');
+    most = std::max(most, middle.digits.find_last_not_of('0') + 1 - first);
+    const std::string exponent = std::string("E").append(std::to_string(middle.exponent));
+    ASSERT_EQ(toDouble(middle.digits + exponent, kItalian), bits % 2 == 0 ? below : above) << bits;
+    const std::string zeros(i % 7 == 0 ? 900 : 3, '0');
+    ASSERT_EQ(toDouble(middle.digits + "," + zeros + "1" + exponent, kItalian), above) << bits;
+    std::string less = middle.digits;
+    const std::size_t last = less.find_last_not_of('0');
+    less[last] = '4';  // from a 5
+    std::fill(less.begin() + static_cast<std::ptrdiff_t>(last) + 1, less.end(), '9');
+    ASSERT_EQ(toDouble(less + ",9" + exponent, kItalian), below) << bits;
+  }
+  EXPECT_GE(most, 765U);
+}
+
+TEST(Double, OfADecimalIsTheNearest) {
+  std::mt19937_64 random(28);
+  for (int i = 0; i < 5'000; ++i) {
+    const Decimal::Magnitude words{static_cast<std::uint32_t>(random()), static_cast<std::uint32_t>(random()),
+                                   i % 2 == 0 ? 0 : static_cast<std::uint32_t>(random())};
+    const Decimal value = Decimal::of(words, static_cast<int>(random() % 29), random() % 2 == 0);
+    const Exact exact{value.negative(), test::wholeNumber(words), -value.scale()};
+    ASSERT_TRUE(test::isNearest(as<double>(value, kItalian), exact)) << exact.digits << "E-" << value.scale();
   }
 }
 

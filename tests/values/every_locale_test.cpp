@@ -52,10 +52,32 @@ std::vector<std::int64_t> amounts() {
   return counts;
 }
 
+/// What the locale shows under "Currency" for a whole number of units, put together from the parts.
+std::string underCurrency(const std::string& units, const Locale& locale) {
+  const bool negative = units.front() == '-';
+  std::string number;
+  for (char c : test::written(negative ? units.substr(1) : units, locale.currencyDecimals, true)) {
+    number += c == '.' ? locale.groupingSign : c == ',' ? locale.decimalSign : c;
+  }
+  const bool atNumber = locale.negative == NegativeForm::SignAtNumber;
+  const std::string before = negative && atNumber && locale.symbolFirst ? "-" : "";
+  const std::string behind = negative && atNumber && !locale.symbolFirst ? "-" : "";
+  const std::string signedNumber = before + number + behind;
+  const std::string symbol(locale.symbol);
+  const std::string whole = symbol.empty()       ? signedNumber
+                            : locale.symbolFirst ? symbol + " " + signedNumber
+                                                 : signedNumber + " " + symbol;
+  if (!negative || atNumber) return whole;
+  return locale.negative == NegativeForm::Brackets ? "(" + whole + ")" : "-" + whole;
+}
+
 void expectRoundTrip(std::int64_t count, Pattern pattern, int decimals, const Locale& locale) {
   const std::string text = format(Currency::fromTenThousandths(count), pattern, locale).str();
   const test::Exact exact = test::exactCount(count, 4);
   const std::string shown = test::inUnits(exact, decimals, ModelTies::AwayFromZero);
+  if (pattern == Pattern::Currency) {
+    ASSERT_EQ(text, underCurrency(shown, locale));
+  }
   const std::string units = test::inUnits({shown.front() == '-', shown.substr(shown.front() == '-' ? 1 : 0), -decimals},
                                           4, ModelTies::ToEven);
   // The ends of the range may round to a number beyond it.

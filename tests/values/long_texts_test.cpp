@@ -89,6 +89,12 @@ TEST(LongTexts, PatternsShowEachDigitAsFarAsTheRangeOfADouble) {
   EXPECT_EQ(formatText("1E+310", Pattern::Currency, kItalian), "1E+310");
 }
 
+TEST(LongTexts, AZeroIsWrittenWhateverItsExponent) {
+  EXPECT_EQ(formatText("0E+310", Pattern::TwoDecimals, kItalian), "0,00");
+  EXPECT_EQ(formatText("-0,00E+99999", Pattern::Currency, kItalian), "€ 0,00");
+  EXPECT_EQ(formatText("0E-310", Pattern::TwoDecimals, kItalian), "0,00");
+}
+
 TEST(LongTexts, MessagesAreCutAtACharacter) {
   EXPECT_FAILURE(toCurrency(std::string(79, 'a') + "€€€", kItalian), FailureKind::TypeMismatch,
                  "the text \"" + std::string(79, 'a') + "…\" is no number");

@@ -108,9 +108,41 @@ TEST(Patterns, CurrencyHasTheLocalesDecimals) {
 TEST(Patterns, ALocaleThatCannotBeFails) {
   EXPECT_FAILURE(shown(1, Pattern::Currency, {.currencyDecimals = 5}), FailureKind::InvalidCall, "not 5");
   EXPECT_FAILURE(format(1.0, Pattern::Currency, {.currencyDecimals = 255}), FailureKind::InvalidCall, "not 255");
+  for (char sign : {'0', '9', '-', '+', '(', ')', ' ', '\t', 'E', '\xA0'}) {
+    EXPECT_FAILURE(shown(1, Pattern::Currency, {.decimalSign = sign}), FailureKind::InvalidCall, "is no decimal sign");
+    if (sign == ' ') continue;
+    EXPECT_FAILURE(shown(1, Pattern::Currency, {.groupingSign = sign}), FailureKind::InvalidCall,
+                   "is no grouping sign");
+  }
+  EXPECT_FAILURE(shown(1, Pattern::Currency, {.decimalSign = '\0'}), FailureKind::InvalidCall, "of code 0");
+  EXPECT_FAILURE(shown(1, Pattern::Currency, {.groupingSign = ','}), FailureKind::InvalidCall,
+                 "the character \",\" is no grouping sign beside the decimal sign \",\"");
+  for (const char* symbol : {"5x", "-", "+x", "(x", ")", " x", "\tx", "\u00A0x", "\u202Fx", ",", ".x"}) {
+    EXPECT_FAILURE(shown(1, Pattern::Currency, {.symbol = symbol}), FailureKind::InvalidCall,
+                   "the currency symbol \"" + std::string(symbol) + "\" begins with");
+    EXPECT_EQ(shown(1, Pattern::TwoDecimals, {.symbol = symbol}), "0,00");
+  }
   const std::string symbol(65, 'x');
   EXPECT_FAILURE(shown(1, Pattern::Currency, {.symbol = symbol}), FailureKind::InvalidCall, "longer than 64 bytes");
   EXPECT_EQ(shown(1, Pattern::Currency, {.symbol = std::string_view(symbol).substr(1)}), symbol.substr(1) + " 0,00");
+}
+
+TEST(Patterns, AMessageCutsTheSymbolAtACharacter) {
+  std::string symbol(79, 'x');
+  symbol += "€";
+  EXPECT_FAILURE(shown(1, Pattern::Currency, {.symbol = symbol}), FailureKind::InvalidCall,
+                 "the currency symbol \"" + std::string(79, 'x') + "…\" is longer than 64 bytes");
+}
+
+TEST(Patterns, ALocaleWithoutGrouping) {
+  const Locale locale{.groupingSign = '\0'};
+  EXPECT_EQ(shown(-12'345'678'900, Pattern::Currency, locale), "-€ 1234567,89");
+  EXPECT_EQ(formatText("1234567,89", Pattern::Currency, locale), "€ 1234567,89");
+  EXPECT_FALSE(isNumber("1.234", locale));
+  EXPECT_FALSE(isNumber(std::string_view("1\0"
+                                         "234",
+                                         5),
+                        locale));
 }
 
 TEST(Patterns, IntegersAndDecimalsToo) {
@@ -255,6 +287,10 @@ TEST(Patterns, AnyValueUnderAPatternOfDates) {
   EXPECT_EQ(shownAsDate(Date::of(15, 11, 2026)->days() + 0.75), "15/11/2026");
   EXPECT_EQ(shownAsDate(Null{}), "");
   EXPECT_EQ(shownAsDate(Empty{}), "");
+  EXPECT_EQ(formatValue(Empty{}, Pattern::MonthYear, kItalian), "");
+  EXPECT_EQ(formatValue(Empty{}, Pattern::Year, kItalian), "");
+  EXPECT_EQ(formatValue(Date::of(15, 11, 2026)->days() + 0.75, Pattern::MonthYear, kItalian), "11/2026");
+  EXPECT_EQ(formatValue(std::int32_t{Date::of(15, 11, 2026)->days()}, Pattern::Year, kItalian), "2026");
   EXPECT_FAILURE(shownAsDate(1e7), FailureKind::Overflow, "10000000");
   EXPECT_FAILURE(shownAsDate(CurrencyArray{}), FailureKind::TypeMismatch, "array");
 }

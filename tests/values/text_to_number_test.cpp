@@ -293,6 +293,16 @@ TEST(TextToInteger, RoundsTiesToEven) {
   // In front of an empty field stands a 0.
   EXPECT_EQ(toInt16("0", kItalian), 0);
   EXPECT_EQ(toInt32("0123", kItalian), 123);
+  for (const char* field : {"", " ", ",0", "0"}) {
+    EXPECT_EQ(toInt16(std::string("0") + field, kItalian), 0) << field;
+    EXPECT_EQ(toInt32(std::string("0") + field, kItalian), 0) << field;
+  }
+  EXPECT_EQ(toInt16(std::string("0") + "12", kItalian), 12);
+  EXPECT_EQ(toInt32(std::string("0") + "12,5", kItalian), 12);
+  EXPECT_EQ(toInt16(std::string("0") + "5-", kItalian), -5);
+  for (const char* field : {"-5", "€ 5", "x", "1.234"}) {
+    EXPECT_FAILURE(toInt16(std::string("0") + field, kItalian), FailureKind::TypeMismatch, std::string("\"0") + field);
+  }
 }
 
 TEST(TextToInteger, ReachesTheEndsOfTheRangeAndNoFurther) {

@@ -130,7 +130,14 @@ TEST(VariantConversions, NumbersRoundTiesToEven) {
   EXPECT_EQ(to<std::uint8_t>(Decimal::of({25, 0, 0}, 1, false)), 2);
   EXPECT_EQ(to<Currency>(Decimal::of({100'005, 0, 0}, 5, false)), amount(10'000));
   EXPECT_EQ(to<Currency>(Decimal::of({100'015, 0, 0}, 5, false)), amount(10'002));
+  EXPECT_EQ(to<Currency>(1.00005), amount(10'000));
   EXPECT_EQ(to<Currency>(1.00015), amount(10'002));
+  EXPECT_EQ(to<Currency>(600.04 / 100 * 12.5), amount(750'050));
+  // 3,5 and 2,5 in 15 digits.
+  EXPECT_EQ(to<std::int16_t>(3.4999999999999996), 4);
+  EXPECT_EQ(to<std::int32_t>(3.4999999999999996), 4);
+  EXPECT_EQ(to<std::int32_t>(2.5000000000000004), 2);
+  EXPECT_EQ(to<std::uint8_t>(3.4999999999999996), 4);
   EXPECT_EQ(to<Decimal>(0.1), Decimal::of({1, 0, 0}, 1, false));
   EXPECT_EQ(to<double>(Decimal::of({1, 0, 0}, 1, false)), 0.1);
   EXPECT_EQ(to<double>(amount(std::numeric_limits<std::int64_t>::min())), -922337203685477.5808);
@@ -160,11 +167,19 @@ TEST(VariantConversions, ADateOfATextOrANumber) {
   EXPECT_EQ(to<Date>("0.00.00"s), Date());
   EXPECT_EQ(to<Date>(46'000.75), Date::fromDays(46'000));
   EXPECT_EQ(to<Date>(-1.25), Date::fromDays(-1));
+  EXPECT_EQ(to<Date>(0.75), Date());
+  EXPECT_EQ(to<Date>(1e-300), Date());
+  EXPECT_EQ(to<Date>(amount(459'999'999)), Date::fromDays(45'999));
+  // 15 digits of the first make 46000, and of the second still 45999 and a time.
+  EXPECT_EQ(to<Date>(45'999.99999999999), Date::fromDays(46'000));
+  EXPECT_EQ(to<Date>(45'999.9999999999), Date::fromDays(45'999));
+  EXPECT_EQ(to<Date>(toDecimal("45999,99999999999999999999999", kItalian)), Date::fromDays(45'999));
   EXPECT_EQ(to<Date>(std::int16_t{2}), Date::fromDays(2));
   EXPECT_FAILURE(to<Date>("31/02/2026"s), FailureKind::TypeMismatch, "the text \"31/02/2026\" is no date");
   EXPECT_FAILURE(to<Date>(""s), FailureKind::TypeMismatch, "the text \"\" is no date");
   EXPECT_FAILURE(to<Date>("46000"s), FailureKind::TypeMismatch, "the text \"46000\" is no date");
   EXPECT_FAILURE(to<Date>(std::int32_t{3'000'000}), FailureKind::Overflow, "3000000");
+  EXPECT_FAILURE(to<Date>(std::int32_t{2'000'000'000}), FailureKind::Overflow, "2000000000 does not fit a date");
   EXPECT_FAILURE(to<Date>(1e300), FailureKind::Overflow, "1E+300 does not fit a date");
   EXPECT_FAILURE(to<Date>(std::numeric_limits<double>::quiet_NaN()), FailureKind::TypeMismatch, "no number");
   EXPECT_FAILURE(to<Date>(CurrencyArray{}), FailureKind::TypeMismatch, "is no date");
