@@ -11,7 +11,7 @@ sqlite3_vfs* below = nullptr;
 int openForReading(sqlite3_vfs* /*vfs*/, const char* name, sqlite3_file* file, int flags, int* opened) {
   file->pMethods = nullptr;
   constexpr int kReadable = SQLITE_OPEN_MAIN_DB | SQLITE_OPEN_WAL | SQLITE_OPEN_MAIN_JOURNAL;
-  if ((flags & kReadable) == 0 || (flags & SQLITE_OPEN_DELETEONCLOSE) != 0) return SQLITE_CANTOPEN;
+  if ((flags & kReadable) == 0) return SQLITE_CANTOPEN;
   flags &= ~(SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE);
   return below->xOpen(below, name, file, flags | SQLITE_OPEN_READONLY, opened);
 }

@@ -106,9 +106,10 @@ std::vector<long long> Database::tenThousandths(std::string_view sql) const {
 
 std::vector<std::string> Database::columns(std::string_view sql) const {
   const Statement statement = prepare(sql);
+  const int count = sqlite3_column_count(statement.get());
   std::vector<std::string> names;
-  for (int column = 0; column < sqlite3_column_count(statement.get()); ++column)
-    names.emplace_back(sqlite3_column_name(statement.get(), column));
+  names.reserve(static_cast<std::size_t>(count));
+  for (int column = 0; column < count; ++column) names.emplace_back(sqlite3_column_name(statement.get(), column));
   return names;
 }
 

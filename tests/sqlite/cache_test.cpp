@@ -131,14 +131,15 @@ TEST(KeptStatements, GiveWayToNewerOnes) {
               (Answer{{"i 22"}}));
     return "Select IVA AS " + name + " From TIPI_IVA Where COD_IVA = ?";
   };
+  const auto usual = find("USUAL");
   for (int round = 0; round < 2; ++round) {
     for (int i = 0; i < 200; ++i) {
       const auto newest = find(std::string("C").append(std::to_string(i)));
-      const auto usual = find("USUAL");
       const auto prepared = preparedIn(database);
       EXPECT_LE(prepared.size(), sqlite::kMostPrepared);
       EXPECT_TRUE(prepared.contains(newest));
-      EXPECT_TRUE(prepared.contains(usual));
+      EXPECT_TRUE(prepared.contains(usual)) << "though it was run just before";
+      find("USUAL");
     }
   }
   EXPECT_EQ(preparedIn(database).size(), sqlite::kMostPrepared);

@@ -57,7 +57,7 @@ INSTANTIATE_TEST_SUITE_P(
         Bound{"Looks", {.looks = 100}, counted(100'000) + "Select Count(*) From C", "it takes too much work"},
         Bound{"Time",
               {.time = std::chrono::milliseconds(100)},
-              counted(4'000'000) + "Select Count(*) From C",
+              counted(2'000'000) + "Select Count(*) From C",
               "it takes too much work"},
         Bound{"Memory",
               {.memory = 1 << 20},
@@ -138,6 +138,7 @@ TEST(Guards, StandWithoutTheAuthorizerToo) {
   EXPECT_EQ(guarded.tryTo("ATTACH ':memory:' AS M"), "too many attached databases - max 0");
   for (const char* sql : {"DELETE FROM MASTRI RETURNING MASTRO", "BEGIN", "PRAGMA query_only = OFF"})
     EXPECT_EQ(reasonOf(guarded.session, sql), "it does not only read") << sql;
+  EXPECT_EQ(reasonOf(guarded.session, "SELECT value FROM json_each('[1]')"), "no such table: json_each");
   EXPECT_EQ(guarded.tryTo("PRAGMA writable_schema = ON"), "");
   EXPECT_EQ(guarded.tryTo("UPDATE sqlite_master SET sql = ''"), "table sqlite_master may not be modified");
 }
@@ -213,6 +214,14 @@ TEST(ReadingVfs, MakesNoTemporaryFile) {
   };
   EXPECT_EQ(sortOver(nullptr), SQLITE_OK);
   EXPECT_EQ(sortOver(sqlite::readingVfs()), SQLITE_CANTOPEN);
+}
+
+TEST(ReadingVfs, DeletesNothing) {
+  const ScratchFolder folder;
+  const std::string file = officeFile(folder);
+  sqlite3_vfs* const vfs = sqlite3_vfs_find(sqlite::readingVfs());
+  EXPECT_EQ(vfs->xDelete(vfs, file.c_str(), 0), SQLITE_READONLY);
+  EXPECT_EQ(folder.contents().size(), 1U);
 }
 
 }  // namespace

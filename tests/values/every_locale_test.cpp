@@ -64,9 +64,9 @@ std::string underCurrency(const std::string& units, const Locale& locale) {
   const std::string behind = negative && atNumber && !locale.symbolFirst ? "-" : "";
   const std::string signedNumber = before + number + behind;
   const std::string symbol(locale.symbol);
-  const std::string whole = symbol.empty()       ? signedNumber
-                            : locale.symbolFirst ? symbol + " " + signedNumber
-                                                 : signedNumber + " " + symbol;
+  std::string whole = symbol.empty()       ? signedNumber
+                      : locale.symbolFirst ? symbol + " " + signedNumber
+                                           : signedNumber + " " + symbol;
   if (!negative || atNumber) return whole;
   return locale.negative == NegativeForm::Brackets ? "(" + whole + ")" : "-" + whole;
 }

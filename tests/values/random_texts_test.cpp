@@ -26,7 +26,7 @@ std::string randomDigits(std::mt19937_64& random, std::size_t most) {
 
 /// What often stands behind the place that is rounded to: a tie, just beside one, or anything.
 std::string randomRest(std::mt19937_64& random) {
-  const std::string many(random() % 60, random() % 2 == 0 ? '0' : '9');
+  std::string many(random() % 60, random() % 2 == 0 ? '0' : '9');
   switch (random() % 5) {
     case 0:
       return std::string("5").append(many.size(), '0');
