@@ -50,6 +50,7 @@ void ProssimoCampo(toolkit::Widget& control);
 /// Replaces every occurrence, searching from the start after each, and returns the text. A replacement that contains
 /// what it replaces fails with "invalid call" if there is anything to replace, as it would never end; one that makes up
 /// new occurrences with the text beside it is the caller's to avoid.
+/// What to find and the replacement must not view the text itself.
 std::string TestoSostituisci(std::string& text, std::string_view find, std::string_view replacement);
 
 /// 1 if a form of that name, in any case, is loaded, 0 otherwise.

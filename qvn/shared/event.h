@@ -32,7 +32,7 @@ class Event {
   /// Fails with "invalid call" where handlers raise the event again without end.
   void raise() {
     constexpr int kDeepest = 100;
-    if (depth_ == kDeepest) {
+    if (*depth_ == kDeepest) {
       throw Failure(FailureKind::InvalidCall, "a handler of the event raises it again without end");
     }
     const Raising raising(depth_);
@@ -47,20 +47,20 @@ class Event {
  private:
   class Raising {
    public:
-    explicit Raising(int& depth) : depth_(++depth) {}
-    ~Raising() { --depth_; }
+    explicit Raising(std::shared_ptr<int> depth) : depth_(std::move(depth)) { ++*depth_; }
+    ~Raising() { --*depth_; }
     Raising(const Raising&) = delete;
     Raising& operator=(const Raising&) = delete;
 
    private:
-    int& depth_;
+    std::shared_ptr<int> depth_;
   };
 
   void forgetGone() {
     std::erase_if(handlers_, [](const auto& handler) { return handler.expired(); });
   }
 
-  int depth_ = 0;
+  std::shared_ptr<int> depth_ = std::make_shared<int>(0);  // outlives an event that its handler drops
   std::vector<std::weak_ptr<const std::function<void()>>> handlers_;
 };
 

@@ -212,6 +212,13 @@ TEST_P(SharedConnection, ASubscriptionMayOutliveTheEventObject) {
   EXPECT_EQ(asked, 0);
 }
 
+TEST_P(SharedConnection, AHandlerMayDropTheEventObjectItself) {
+  auto own = std::make_unique<clsQVN_Eventi>();
+  const Subscription host = own->MancaDB.subscribe([&] { own.reset(); });
+  own->FireMancaDB();
+  EXPECT_EQ(own, nullptr);
+}
+
 TEST_P(SharedConnection, AHandlerThatAsksAgainWithoutAnEndFails) {
   const Subscription host = eventi().MancaDB.subscribe([&] { company(); });  // before it gives the database
   EXPECT_FAILURE(company(), FailureKind::InvalidCall, "without end");

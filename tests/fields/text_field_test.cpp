@@ -54,6 +54,10 @@ TEST_P(TextFields, APercentBeyondSixteenBitsFailsAndStays) {
   EXPECT_EQ(field("A").Text(), "40000");
   field("A").Text("32767");
   EXPECT_EQ(field("A").Text(), "100");
+  field("A").Text("100,5");  // a tie goes to the even 100
+  EXPECT_EQ(field("A").Text(), "100,5");
+  field("A").Text("100,6");
+  EXPECT_EQ(field("A").Text(), "100");
   field("A").Text("-5");  // only what is above 100 is corrected
   EXPECT_EQ(field("A").Text(), "-5");
 }
