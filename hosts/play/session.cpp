@@ -94,9 +94,10 @@ Answer Session::carriedOut(std::string_view line) {
     answer = failed(nameOf(FailureKind::InvalidCall), asked + unforeseen.what());
   }
   answer.update(added);
+  Answer failures = panels_.takeFailures();  // whoever acted, so that none is told of a later request
   if (kind != nullptr && kind->byOperator) {
     answer["beeps"] = journal_.beeps() - beepsBefore;
-    answer["failures"] = panels_.takeFailures();
+    answer["failures"] = std::move(failures);
     answer["shown"] = Answer::array();
   }
   return answer;
