@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -37,6 +38,7 @@ struct Opened {
   std::string password;
   std::int32_t options;
   std::int32_t cursorLocation;
+  std::string viewer = {};
 
   friend bool operator==(const Opened&, const Opened&) = default;
 };
@@ -47,7 +49,8 @@ class FakeDriver final : public toolkit::Driver {
 
   std::unique_ptr<toolkit::Session> open(const toolkit::Opening& opening) override {
     openings.push_back({std::string(opening.connectionString), std::string(opening.rest), std::string(opening.user),
-                        std::string(opening.password), opening.options, opening.cursorLocation});
+                        std::string(opening.password), opening.options, opening.cursorLocation,
+                        std::string(opening.viewer)});
     if (opening.rest == "refused") throw Failure(FailureKind::Database, "the database \"refused\" cannot be opened");
     return std::make_unique<FakeSession>(*this);
   }
@@ -61,6 +64,7 @@ class FakeDriver final : public toolkit::Driver {
   class FakeRows final : public toolkit::Rows {
    public:
     explicit FakeRows(FakeAnswer answer) : answer_(std::move(answer)) {}
+    std::span<const std::string> columns() const override { return answer_.columns; }
     bool atEnd() const override { return row_ >= answer_.rows.size(); }
     void next() override { ++row_; }
     Variant value(std::string_view column) const override {

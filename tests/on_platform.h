@@ -23,6 +23,7 @@ class OnPlatform : public testing::TestWithParam<PlatformMaker> {
   Operator& hands() { return under_->hands(); }
   RecordingContainer& container() { return container_; }
   FakeDriver& driver() { return driver_; }
+  void watch(Watcher* watcher) { under_->watch(watcher); }
   std::int64_t beeps() const { return under_->beeps(); }
   void today(Date date) { under_->today(date); }
   void setLocale(const Locale& locale) { under_->setLocale(locale); }

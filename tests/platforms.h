@@ -30,6 +30,11 @@ class PlatformUnderTest {
 template <class P>
 class UnderTest final : public PlatformUnderTest {
  public:
+  /// An act that a test lays down and that cannot be done must not pass for one that was.
+  ~UnderTest() override {
+    for (const FailedAct& failed : hands().failedActs()) ADD_FAILURE() << failed.form << ": " << failed.failure.what();
+  }
+
   toolkit::Platform& platform() override { return platform_; }
   Operator& hands() override { return platform_.hands(); }
   void watch(Watcher* watcher) override { platform_.watch(watcher); }

@@ -1,7 +1,7 @@
 # Tells a played session to a person: awk -f show_session.awk SESSION ANSWERS
 #
-# The session's own remarks as they stand, each request in words, each drawn panel as a picture, and of any other
-# answer what it adds. A session is one JSON object a line; an answer stands for each line that is one.
+# The session's own remarks as they stand, each request in words, each drawn panel and each form that was shown as a
+# picture, and of any other answer what it adds. A session is one JSON object a line; an answer stands for each line that is one.
 
 BEGIN {
   words["connect"] = "The host opens the database {string}."
@@ -26,13 +26,20 @@ BEGIN {
   words["paste"] = "The operator pastes {text}"
   words["click"] = "The operator clicks {widget}."
   words["choose"] = "The operator chooses {item}{index} in {widget}."
-  words["operator"] = "When {form} shows, the operator will do {acts}"
+  words["operator"] = "When {form} shows, the operator will {acts}."
   words["look"] = "How does {panel}.{widget} stand?"
   words["look at all"] = "How do the widgets of {panel} stand?"
   words["draw"] = "The panel {panel}:"
   words["focused"] = "Who has the focus?"
   words["forms"] = "Which forms are loaded?"
   words["journal"] = "What has happened?"
+  act_words["row"] = "select row "
+  act_words["double"] = "double-click row "
+  act_words["column"] = "click the head of column "
+  act_words["key"] = "press "
+  act_words["click"] = "click "
+  act_words["close"] = "close it"
+  act_words["look"] = "look at it"
   # Whether %c takes characters, or bytes.
   takes_characters = sprintf("%c", 233) == "\303\251"
   mark = "\357\273\277"
@@ -121,7 +128,7 @@ function take_apart(object, fields, keys,    at, end, key, count) {
   return count
 }
 
-function in_words(request, fields,    text, key, wanted) {
+function in_words(request, fields,    text, key, wanted, rest) {
   wanted = plain(fields["do"])
   if (!(wanted in words)) return request
   if (wanted == "show" && fields["visible"] == "false") wanted = "hide"
@@ -129,13 +136,30 @@ function in_words(request, fields,    text, key, wanted) {
   text = words[wanted]
   while (match(text, /[{][a-z]+[}]/)) {
     key = substr(text, RSTART + 1, RLENGTH - 2)
-    text = substr(text, 1, RSTART - 1) "\001" (key in fields ? plain(fields[key]) : "") "\002" substr(text, RSTART + RLENGTH)
+    rest = substr(text, RSTART + RLENGTH)
+    text = substr(text, 1, RSTART - 1)
+    text = text "\001" field_in_words(key, fields) "\002" rest
     # What was put in may hold braces of its own, as keys do: they are out of reach until all is put in.
     text = hidden(text)
   }
   gsub(/\003/, "{", text)
   sub(/ +$/, "", text)
   return text
+}
+
+function field_in_words(key, fields) {
+  if (!(key in fields)) return ""
+  return key == "acts" ? acts_in_words(fields[key]) : plain(fields[key])
+}
+
+function acts_in_words(list,    items, count, i, act, keys, said, one) {
+  count = take_list_apart(list, items)
+  for (i = 1; i <= count; ++i) {
+    if (take_apart(items[i], act, keys) != 1 || !(keys[1] in act_words)) one = items[i]
+    else one = act_words[keys[1]] (act[keys[1]] == "true" ? "" : plain(act[keys[1]]))
+    said = said (i == 1 ? "" : i < count ? ", " : " and ") one
+  }
+  return count ? said : "close it"
 }
 
 function hidden(text,    from, to, inside) {
@@ -146,14 +170,69 @@ function hidden(text,    from, to, inside) {
   return substr(text, 1, from - 1) inside substr(text, to + 1)
 }
 
-function show_list(list, indent,    at, end) {
+# Takes a JSON list apart into items[1], items[2] …; gives the number of them.
+function take_list_apart(list, items,    at, end, count) {
+  split("", items)
   at = index(list, "[") + 1
   while (match(substr(list, at), /^[ ,]*[^], ]/)) {
     at += RLENGTH - 1
     end = value_end(list, at)
-    print indent plain(substr(list, at, end - at + 1))
+    items[++count] = substr(list, at, end - at + 1)
     at = end + 1
   }
+  return count
+}
+
+function show_list(list, indent,    items, count, i) {
+  count = take_list_apart(list, items)
+  for (i = 1; i <= count; ++i) print indent plain(items[i])
+}
+
+function show_failures(list,    items, count, i, failure, keys) {
+  count = take_list_apart(list, items)
+  for (i = 1; i <= count; ++i) {
+    take_apart(items[i], failure, keys)
+    print "    " plain(failure["event"]) " FAILED, " plain(failure["failure"]) ": " plain(failure["message"])
+  }
+}
+
+# Each form by its caption and what stood in its columns, the selected row marked.
+function show_forms(list,    items, count, i, form, keys) {
+  count = take_list_apart(list, items)
+  for (i = 1; i <= count; ++i) {
+    take_apart(items[i], form, keys)
+    print "    " plain(form["caption"])
+    if ("rows" in form) show_table(form["columns"], form["rows"], ("selected" in form) ? form["selected"] + 1 : 0)
+  }
+}
+
+function show_table(columns, rows, selected,    items, count, i, j, row, cells, column, keys, texts, widths, line) {
+  count = take_list_apart(columns, items)
+  for (j = 1; j <= count; ++j) {
+    take_apart(items[j], column, keys)
+    texts[0, j] = plain(column["caption"])
+    widths[j] = characters(texts[0, j])
+  }
+  row = take_list_apart(rows, items)
+  for (i = 1; i <= row; ++i) {
+    take_list_apart(items[i], cells)
+    for (j = 1; j <= count; ++j) {
+      texts[i, j] = plain(cells[j])
+      if (characters(texts[i, j]) > widths[j]) widths[j] = characters(texts[i, j])
+    }
+  }
+  for (i = 0; i <= row; ++i) {
+    line = (i > 0 && i == selected) ? "    > " : "      "
+    for (j = 1; j <= count; ++j) line = line texts[i, j] sprintf("%" (widths[j] - characters(texts[i, j]) + 2) "s", "")
+    sub(/ +$/, "", line)
+    print line
+  }
+}
+
+# How many characters a text has: where it is taken by bytes, those that go on with a character do not count.
+function characters(text) {
+  if (!takes_characters) gsub("[\200-\277]", "", text)
+  return length(text)
 }
 
 function show_answer(answer,    fields, keys, count, i, key) {
@@ -162,6 +241,8 @@ function show_answer(answer,    fields, keys, count, i, key) {
   for (i = 1; i <= count; ++i) {
     key = keys[i]
     if (key == "lines") show_list(fields[key], "    ")
+    else if (key == "failures") show_failures(fields[key])
+    else if (key == "shown") show_forms(fields[key])
     else if (key == "value") print "    -> " plain(fields[key])
     else if (key ~ /^(ok|failure|message)$/ || fields[key] == "0" || fields[key] == "[]") continue
     else if (fields[key] ~ /^\[/) {

@@ -56,11 +56,21 @@ void get(Session& session, const Request& request, Answer& answer) {
   answer["value"] = toJson(getByName(panel, request.text("name")));
 }
 
+/// The request's arguments, and where one of them does not convert, the answer shows them as they were given.
+std::vector<Variant> argumentsOf(const Session& session, const Request& request, Answer& answer) {
+  try {
+    return request.arguments(session.locale());
+  } catch (const Failure&) {
+    answer["args"] = request.argumentsAsGiven(session.locale());
+    throw;
+  }
+}
+
 /// Calls with the request's arguments, and shows those given as they stand afterwards, on a failure too.
 template <class Function>
 void callWithArgs(const Session& session, const Request& request, Answer& answer, bool givesValue,
                   Function&& function) {
-  std::vector<Variant> args = request.arguments(session.locale());
+  std::vector<Variant> args = argumentsOf(session, request, answer);
   const auto showArgs = [&] {
     if (!request.has("args")) return;
     Answer& list = answer["args"] = Answer::array();

@@ -43,6 +43,15 @@ void Journal::beeped() {
   entries_.push_back(entry(std::pair("beep", true)));
 }
 
+void Journal::formLoaded(std::string_view form) { entries_.push_back(entry(std::pair("load", form))); }
+void Journal::formShown(std::string_view form) { entries_.push_back(entry(std::pair("modal", form))); }
+void Journal::formHidden(std::string_view form) { entries_.push_back(entry(std::pair("hide", form))); }
+void Journal::formUnloaded(std::string_view form) { entries_.push_back(entry(std::pair("unload", form))); }
+
+void Journal::viewerRuns(std::string_view form, std::string_view sql) {
+  entries_.push_back(entry(std::pair("sql", sql), std::pair("viewer", form)));
+}
+
 Answer Journal::take() { return std::exchange(entries_, Answer::array()); }
 
 }  // namespace qvn::play

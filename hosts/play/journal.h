@@ -8,7 +8,8 @@
 
 namespace qvn::play {
 
-/// Hears the focus and the beep from the platform; the other entries are written by who sees them.
+/// Hears the focus, the beep, the forms and the viewers from the platform; the other entries are written by who sees
+/// them.
 class Journal final : public Watcher {
  public:
   /// The name is kept as it was announced.
@@ -20,6 +21,11 @@ class Journal final : public Watcher {
   void lostFocus(const toolkit::Widget& widget) override;
   void gotFocus(const toolkit::Widget& widget) override;
   void beeped() override;
+  void formLoaded(std::string_view form) override;
+  void formShown(std::string_view form) override;
+  void formHidden(std::string_view form) override;
+  void formUnloaded(std::string_view form) override;
+  void viewerRuns(std::string_view form, std::string_view sql) override;
 
   /// How often it has beeped since the journal was made.
   std::int32_t beeps() const { return beeps_; }

@@ -24,6 +24,7 @@ class JournalingSession final : public toolkit::Session {
 }  // namespace
 
 std::unique_ptr<toolkit::Session> JournalingDriver::open(const toolkit::Opening& opening) {
+  if (!opening.viewer.empty()) return driver_.open(opening);
   journal_.open(opening.connectionString, opening.cursorLocation);
   return std::make_unique<JournalingSession>(driver_.open(opening), journal_);
 }

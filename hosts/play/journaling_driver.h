@@ -9,8 +9,9 @@
 
 namespace qvn::play {
 
-/// Passes everything on to another driver, and enters each opening and each statement before the other driver sees it,
-/// so that the failed ones stand in the journal too. Owns neither driver nor journal.
+/// Passes everything on to another driver, and enters each opening and each statement of the library's connection
+/// before the other driver sees it, so that the failed ones stand in the journal too. A viewer's connection is the
+/// platform's to tell of. Owns neither driver nor journal.
 class JournalingDriver final : public toolkit::Driver {
  public:
   JournalingDriver(toolkit::Driver& driver, Journal& journal) : driver_(driver), journal_(journal) {}

@@ -1,5 +1,6 @@
 // What can be looked at.
 #include <array>
+#include <cstdint>
 
 #include "hosts/play/drawing.h"
 #include "hosts/play/picture.h"
@@ -29,15 +30,20 @@ void focused(Session& session, const Request&, Answer& answer) {
   answer["widget"] = widget != nullptr ? Answer(widget->Name()) : Answer();
 }
 
+void forms(Session& session, const Request&, Answer& answer) {
+  const toolkit::Forms& loaded = session.toolkit().platform().forms();
+  Answer& names = answer["forms"] = Answer::array();
+  for (std::int32_t i = 0; i < loaded.count(); ++i) names.push_back(loaded.at(i).Name());
+}
+
 void journal(Session& session, const Request&, Answer& answer) { answer["journal"] = session.journal().take(); }
 
 }  // namespace
 
 std::span<const RequestKind> lookingRequests() {
   static constexpr std::array kinds{
-      RequestKind{.name = "look", .carryOut = look},
-      RequestKind{.name = "draw", .carryOut = draw},
-      RequestKind{.name = "focused", .carryOut = focused},
+      RequestKind{.name = "look", .carryOut = look},       RequestKind{.name = "draw", .carryOut = draw},
+      RequestKind{.name = "focused", .carryOut = focused}, RequestKind{.name = "forms", .carryOut = forms},
       RequestKind{.name = "journal", .carryOut = journal},
   };
   return kinds;

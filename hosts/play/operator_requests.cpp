@@ -1,6 +1,10 @@
 // What the operator does.
 #include <array>
+#include <cstdint>
+#include <string>
 
+#include "hosts/play/acts.h"
+#include "hosts/play/bad_request.h"
 #include "hosts/play/requests.h"
 #include "qvn/shared/failure.h"
 
@@ -59,15 +63,25 @@ void click(Session& session, const Request& request, Answer&) {
 }
 
 void choose(Session& session, const Request& request, Answer&) {
+  const bool byItem = request.has("item");
+  if (byItem && request.has("index")) throw BadRequest("it has an \"item\" and an \"index\"");
+  const std::string item = byItem ? request.text("item") : std::string();
+  const std::int32_t index = byItem ? 0 : request.whole("index");
   atWidget(session, request, [&](toolkit::Widget& widget) {
     if (widget.Kind() != toolkit::WidgetKind::ComboBox) throw Failure(FailureKind::InvalidCall, "it is no closed list");
     auto& list = static_cast<toolkit::ComboBox&>(widget);
-    if (request.has("item")) {
-      session.hands().choose(list, request.text("item"));
+    if (byItem) {
+      session.hands().choose(list, item);
     } else {
-      session.hands().choose(list, request.whole("index"));
+      session.hands().choose(list, index);
     }
   });
+}
+
+void layDown(Session& session, const Request& request, Answer&) {
+  const std::string& form = request.text("form");
+  if (form.empty()) throw BadRequest("a form's name is not empty");
+  session.hands().layDown(form, actsOf(request.list("acts")));
 }
 
 }  // namespace
@@ -81,6 +95,7 @@ std::span<const RequestKind> operatorRequests() {
       RequestKind{.name = "paste", .carryOut = paste, .byOperator = true},
       RequestKind{.name = "click", .carryOut = click, .byOperator = true},
       RequestKind{.name = "choose", .carryOut = choose, .byOperator = true},
+      RequestKind{.name = "operator", .carryOut = layDown, .byOperator = true},
   };
   return kinds;
 }

@@ -11,8 +11,8 @@ using toolkit::Widget;
 using toolkit::WidgetKind;
 
 std::string_view kindName(WidgetKind kind) {
-  static constexpr std::array<std::string_view, 9> names{"text box", "label", "combo box", "check box", "frame",
-                                                         "button",   "date",  "list",      "grid"};
+  static constexpr std::array<std::string_view, 10> names{
+      "text box", "label", "combo box", "check box", "frame", "button", "date", "list", "grid", "data control"};
   return names.at(static_cast<std::size_t>(kind));
 }
 

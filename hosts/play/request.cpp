@@ -51,10 +51,7 @@ std::optional<std::string> Request::textOrNull(const char* name) const {
 
 std::int32_t Request::whole(const char* name) const {
   const Json& value = field(name);
-  if (value.is_number()) {
-    const Variant number = toVariant(value, {});
-    if (const auto* count = std::get_if<std::int32_t>(&number)) return *count;
-  }
+  if (const std::optional<std::int32_t> number = wholeNumber(value)) return *number;
   throw BadRequest(std::string("\"") + name + "\" is no 32-bit integer: " + excerpt(value));
 }
 
@@ -75,12 +72,19 @@ std::string Request::subject() const {
   const std::optional<std::string> panel = textOf("panel");
   const std::optional<std::string> part = has("name") ? textOf("name") : textOf("widget");
   if (panel && part) return *panel + "." + *part;
-  return panel ? *panel : part.value_or("");
+  if (panel || part) return panel ? *panel : *part;
+  return textOf("form").value_or("");
 }
 
 std::string Request::asked() const {
   const std::string to = subject();
   return to.empty() ? name_ : name_ + " " + to;
+}
+
+const Json& Request::list(const char* name) const {
+  const Json& value = field(name);
+  if (!value.is_array()) throw BadRequest(std::string("\"") + name + "\" is no list: " + excerpt(value));
+  return value;
 }
 
 Variant Request::value(const Locale& locale) const {
@@ -94,9 +98,7 @@ Variant Request::value(const Locale& locale) const {
 std::vector<Variant> Request::arguments(const Locale& locale) const {
   std::vector<Variant> result;
   if (!has("args")) return result;
-  const Json& list = field("args");
-  if (!list.is_array()) throw BadRequest("\"args\" is no list: " + excerpt(list));
-  for (const Json& one : list) {
+  for (const Json& one : list("args")) {
     const std::string place = "argument " + std::to_string(result.size() + 1);
     try {
       result.push_back(toVariant(one, locale));
@@ -104,6 +106,20 @@ std::vector<Variant> Request::arguments(const Locale& locale) const {
       throw BadRequest(place + ": " + bad.what());
     } catch (const Failure& failure) {
       throw failure.within(place).within(subject());
+    }
+  }
+  return result;
+}
+
+Answer Request::argumentsAsGiven(const Locale& locale) const {
+  Answer result = Answer::array();
+  for (const Json& one : list("args")) {
+    try {
+      result.push_back(toJson(toVariant(one, locale)));
+    } catch (const BadRequest&) {
+      result.push_back(Answer(one));
+    } catch (const Failure&) {
+      result.push_back(Answer(one));
     }
   }
   return result;

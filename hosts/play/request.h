@@ -18,7 +18,8 @@ class Request {
   explicit Request(std::string_view line);
 
   const std::string& name() const { return name_; }
-  /// What it is done to, as far as the request tells: "panel.member", "panel.widget", a panel, a lookup, or empty.
+  /// What it is done to, as far as the request tells: "panel.member", "panel.widget", a panel, a lookup, a form,
+  /// or empty.
   std::string subject() const;
   /// The request in short, for messages: "let panel.member".
   std::string asked() const;
@@ -30,10 +31,15 @@ class Request {
   std::int32_t whole(const char* field) const;
   /// The default where the field is left out.
   bool flag(const char* field, bool otherwise) const;
+  /// A list of anything.
+  const Json& list(const char* field) const;
   /// The value and, in "args", the arguments: none where they are left out. An element of an array that does not
   /// convert fails as the conversion does, naming the subject and which argument it is.
   Variant value(const Locale& locale) const;
   std::vector<Variant> arguments(const Locale& locale) const;
+  /// The arguments for an answer where not all of them can be read: those that can as they are read, the others as they
+  /// were given.
+  Answer argumentsAsGiven(const Locale& locale) const;
 
  private:
   const Json& field(const char* name) const;

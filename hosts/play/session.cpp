@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "hosts/play/bad_request.h"
+#include "hosts/play/form_picture.h"
 #include "hosts/play/requests.h"
 #include "qvn/shared/Globale.h"
 #include "qvn/shared/failure.h"
@@ -33,13 +34,15 @@ constexpr std::string_view kBadRequest = "bad request";
 
 }  // namespace
 
-Session::Session(Toolkit& toolkit, std::span<toolkit::Driver* const> drivers) : toolkit_(toolkit), panels_(journal_) {
+Session::Session(Toolkit& toolkit, std::span<toolkit::Driver* const> drivers)
+    : toolkit_(toolkit), panels_(journal_, toolkit.hands()) {
   Globale::install(toolkit_.platform());
   for (toolkit::Driver* driver : drivers) {
     drivers_.push_back(std::make_unique<JournalingDriver>(*driver, journal_));
     toolkit_.platform().drivers().add(*drivers_.back());
   }
   toolkit_.watch(&journal_);
+  hands().takePictures(true);
   listenForMancaDB();
 }
 
@@ -47,6 +50,7 @@ Session::~Session() {
   panels_.clear();
   Globale::uninstall();
   toolkit_.watch(nullptr);
+  hands().takePictures(false);
   toolkit_.platform().drivers().clear();
 }
 
@@ -94,13 +98,21 @@ Answer Session::carriedOut(std::string_view line) {
     answer = failed(nameOf(FailureKind::InvalidCall), asked + unforeseen.what());
   }
   answer.update(added);
-  Answer failures = panels_.takeFailures();  // whoever acted, so that none is told of a later request
-  if (kind != nullptr && kind->byOperator) {
-    answer["beeps"] = journal_.beeps() - beepsBefore;
-    answer["failures"] = std::move(failures);
-    answer["shown"] = Answer::array();
-  }
+  const bool byOperator = kind != nullptr && kind->byOperator;
+  if (byOperator) answer["beeps"] = journal_.beeps() - beepsBefore;
+  // A form that a host's call shows has the operator act as well, and none of it is to be told of a later request.
+  const auto tell = [&](const char* field, Answer list) {
+    if (byOperator || !list.empty()) answer[field] = std::move(list);
+  };
+  tell("failures", panels_.takeFailures());
+  tell("shown", shown());
   return answer;
+}
+
+Answer Session::shown() {
+  Answer pictures = Answer::array();
+  for (const FormPicture& seen : hands().shown()) pictures.push_back(pictureOf(seen));
+  return pictures;
 }
 
 }  // namespace qvn::play

@@ -50,6 +50,7 @@ class Session {
  private:
   void listenForMancaDB();
   Answer carriedOut(std::string_view line);
+  Answer shown();
 
   Toolkit& toolkit_;
   Journal journal_;

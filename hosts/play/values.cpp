@@ -123,6 +123,7 @@ struct Shown {
     }
     return result;
   }
+  Answer operator()(const EventsReference&) const { return wrapper("object", "clsQVN_Eventi"); }
 };
 
 }  // namespace
@@ -142,6 +143,13 @@ Variant toVariant(const Json& json, const Locale& locale) {
     default:
       return number(json);
   }
+}
+
+std::optional<std::int32_t> wholeNumber(const Json& json) {
+  if (!json.is_number()) return std::nullopt;
+  const Variant value = number(json);
+  const auto* whole = std::get_if<std::int32_t>(&value);
+  return whole != nullptr ? std::optional(*whole) : std::nullopt;
 }
 
 Answer toJson(const Variant& value) { return std::visit(Shown{}, value); }

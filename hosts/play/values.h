@@ -1,7 +1,9 @@
 // Values on their way between JSON and the library.
 #pragma once
 
+#include <cstdint>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -17,6 +19,9 @@ using Answer = nlohmann::ordered_json;
 /// The value that a request holds. BadRequest, quoting the JSON, where it is none of the protocol's forms; an element
 /// of an array that does not convert to currency fails as the conversion does, naming its place.
 Variant toVariant(const Json& json, const Locale& locale);
+
+/// A whole number of 32 bits, 12.0 too; nothing where the JSON is none.
+std::optional<std::int32_t> wholeNumber(const Json& json);
 
 /// The value as answers show it.
 Answer toJson(const Variant& value);

@@ -65,13 +65,7 @@ std::int32_t ComboBox::nextBeginningWith(char32_t character) const {
 }
 
 const std::string& ComboBox::at(std::int32_t index) const {
-  if (index < 0 || index >= ListCount()) {
-    throw Failure(FailureKind::SubscriptOutOfRange, fullName(*this)
-                                                        .append(" has ")
-                                                        .append(std::to_string(ListCount()))
-                                                        .append(" items and none at ")
-                                                        .append(std::to_string(index)));
-  }
+  requirePlace(*this, "items", ListCount(), index);
   return items_[static_cast<std::size_t>(index)];
 }
 

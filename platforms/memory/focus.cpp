@@ -1,5 +1,6 @@
 #include "platforms/memory/focus.h"
 
+#include <algorithm>
 #include <exception>
 #include <string>
 #include <string_view>
@@ -45,6 +46,10 @@ void refuseUnusable(const toolkit::Widget& widget) {
 
 }  // namespace
 
+Watcher* Focus::watcherOf(const toolkit::Widget& widget) const {
+  return surfaceOf(widget).isOfForm() ? nullptr : watcher_;
+}
+
 template <class OnFailure>
 void Focus::move(toolkit::Widget* to, OnFailure onFailure) {
   const auto raise = [&](toolkit::Widget& widget, const std::function<void()>* handler, std::string_view event) {
@@ -58,12 +63,12 @@ void Focus::move(toolkit::Widget* to, OnFailure onFailure) {
   holder_ = to;
   if (told_ != nullptr) {
     toolkit::Widget& from = *std::exchange(told_, nullptr);
-    if (watcher_ != nullptr) watcher_->lostFocus(from);
+    if (Watcher* watcher = watcherOf(from)) watcher->lostFocus(from);
     raise(from, handlersOf(from).lost, "LostFocus");
   }
   if (to != nullptr && holder_ == to && told_ != to) {
     told_ = to;
-    if (watcher_ != nullptr) watcher_->gotFocus(*to);
+    if (Watcher* watcher = watcherOf(*to)) watcher->gotFocus(*to);
     raise(*to, handlersOf(*to).got, "GotFocus");
   }
 }
@@ -106,11 +111,35 @@ void Focus::leaveByHand() {
 }
 
 void Focus::forget(const Surface& surface) noexcept {
-  const auto liesOnIt = [&](const toolkit::Widget* widget) {
-    return widget != nullptr && &widget->owner() == static_cast<const toolkit::Surface*>(&surface);
+  const auto forgetIn = [&](toolkit::Widget*& widget) {
+    if (widget != nullptr && &widget->owner() == static_cast<const toolkit::Surface*>(&surface)) widget = nullptr;
   };
-  if (liesOnIt(holder_)) holder_ = nullptr;
-  if (liesOnIt(told_)) told_ = nullptr;
+  forgetIn(holder_);
+  forgetIn(told_);
+  for (Shown& shown : shown_) {
+    forgetIn(shown.holder);
+    forgetIn(shown.told);
+  }
+}
+
+void Focus::enter(Surface& form) {
+  shown_.push_back({.form = &form, .holder = holder_, .told = told_});
+  holder_ = nullptr;
+  told_ = nullptr;
+}
+
+void Focus::leave(const Surface& form) {
+  const auto found = std::ranges::find(shown_, &form, &Shown::form);
+  if (found == shown_.end()) return;
+  forget(form);
+  const bool wasFront = &*found == &shown_.back();
+  // Where another form stands before it, that one gives the focus back to who had it before this one.
+  toolkit::Widget*& holder = wasFront ? holder_ : (found + 1)->holder;
+  toolkit::Widget*& told = wasFront ? told_ : (found + 1)->told;
+  holder = found->holder;
+  told = found->told;
+  shown_.erase(found);
+  if (wasFront && holder_ != nullptr && !canHoldFocus(*holder_)) moveByHand(nullptr);
 }
 
 }  // namespace qvn::memory

@@ -1,5 +1,7 @@
-// Who has the focus among all panels of a platform.
+// Who has the focus among all panels and forms of a platform.
 #pragma once
+
+#include <vector>
 
 #include "platforms/memory/turns.h"
 #include "platforms/operator.h"
@@ -33,7 +35,24 @@ class Focus {
   /// Drops what lies on a surface that is going, and raises nothing.
   void forget(const Surface& surface) noexcept;
 
+  /// A form comes to stand before all else: the focus is put aside, without events, and nobody has it.
+  void enter(Surface& form);
+  /// The form goes, with the focus of its own widgets: who had it before has it again, without events, or loses it by
+  /// hand if it can no longer hold it. Nothing if it does not stand.
+  void leave(const Surface& form);
+  /// The form that stands before all else, or null.
+  Surface* front() const { return shown_.empty() ? nullptr : shown_.back().form; }
+
  private:
+  /// A form that stands, and the focus as it was put aside.
+  struct Shown {
+    Surface* form;
+    toolkit::Widget* holder;
+    toolkit::Widget* told;
+  };
+
+  /// Who is to hear of the widget, or null.
+  Watcher* watcherOf(const toolkit::Widget& widget) const;
   template <class OnFailure>
   void move(toolkit::Widget* to, OnFailure onFailure);
   void moveByProgram(toolkit::Widget* to);
@@ -42,6 +61,7 @@ class Focus {
   Turns& turns_;
   Watcher* watcher_ = nullptr;
   toolkit::Widget* holder_ = nullptr;
+  std::vector<Shown> shown_;
   toolkit::Widget* told_ = nullptr;  // has had its GotFocus and not yet its LostFocus
 };
 

@@ -6,8 +6,10 @@
 #include <utility>
 #include <vector>
 
+#include "platforms/memory/by_hand.h"
 #include "platforms/memory/combo_box.h"
 #include "platforms/memory/date_control.h"
+#include "platforms/memory/list_view.h"
 #include "platforms/memory/platform.h"
 #include "platforms/memory/text_box.h"
 #include "platforms/memory/usable.h"
@@ -28,8 +30,6 @@ std::int16_t keyCodeOf(char32_t character) {
 
 bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
 
-Surface& surfaceOf(const toolkit::Widget& widget) { return static_cast<Surface&>(widget.owner()); }
-
 bool isField(const toolkit::Widget& widget) {
   return widget.Kind() == toolkit::WidgetKind::TextBox || widget.Kind() == toolkit::WidgetKind::DateControl;
 }
@@ -37,16 +37,6 @@ bool isField(const toolkit::Widget& widget) {
 TextBuffer& bufferOf(toolkit::EditableText& field) {
   if (field.Kind() == toolkit::WidgetKind::TextBox) return static_cast<TextBox&>(field).buffer();
   return static_cast<DateControl&>(field).buffer();
-}
-
-/// Does what the operator's hand started; a failure goes to the container as that of the event.
-template <class Act>
-void byHand(toolkit::Widget& widget, std::string_view event, Act act) {
-  try {
-    act();
-  } catch (const Failure& failure) {
-    surfaceOf(widget).report(widget, event, failure);
-  }
 }
 
 }  // namespace
@@ -75,12 +65,9 @@ void Hands::focus(toolkit::Widget& widget) {
 void Hands::leave() { platform_.focus().leaveByHand(); }
 
 void Hands::type(std::string_view keys) {
-  held();
+  if (platform_.focus().front() == nullptr) held();
   KeyReader reader(keys);
-  while (const std::optional<Key> key = reader.next()) {
-    const Turn turn(platform_.turns());
-    press(held(), *key);
-  }
+  while (const std::optional<Key> key = reader.next()) press(*key);
 }
 
 void Hands::caret(std::int32_t start, std::int32_t length) { bufferOf(heldField()).select(start, length); }
@@ -93,44 +80,102 @@ void Hands::paste(std::string_view text) {
   }
 }
 
-void Hands::press(toolkit::Widget& widget, Key key) {
-  if (key.name == KeyName::Tab || key.name == KeyName::ShiftTab) return tab(widget, key.name == KeyName::ShiftTab);
-  if (isField(widget)) return pressInField(static_cast<toolkit::EditableText&>(widget), key);
-  if (widget.Kind() == toolkit::WidgetKind::ComboBox) return pressInList(static_cast<ComboBox&>(widget), key);
-  const bool space = key.character == U' ';
-  const bool enterOnButton = key.name == KeyName::Enter && widget.Kind() == toolkit::WidgetKind::CommandButton;
-  if (space || enterOnButton) push(widget);
+void Hands::press(Key key) {
+  const Turn turn(platform_.turns());
+  Surface* form = platform_.focus().front();
+  const bool atFormAlone = form != nullptr && platform_.focused() == nullptr;
+  const bool goesOn = atFormAlone || pressIn(held(), key);
+  if (form != nullptr && goesOn) pressOnForm(*form, key);
 }
 
-void Hands::pressInField(toolkit::EditableText& field, Key key) {
+bool Hands::pressIn(toolkit::Widget& widget, Key key) {
+  if (key.name == KeyName::Tab || key.name == KeyName::ShiftTab) {
+    tab(widget, key.name == KeyName::ShiftTab);
+    return false;
+  }
+  switch (widget.Kind()) {
+    case toolkit::WidgetKind::TextBox:
+    case toolkit::WidgetKind::DateControl:
+      return pressInField(static_cast<toolkit::EditableText&>(widget), key);
+    case toolkit::WidgetKind::ListView:
+      return pressInListView(static_cast<ListView&>(widget), key);
+    case toolkit::WidgetKind::ComboBox:
+      pressInList(static_cast<ComboBox&>(widget), key);
+      return true;
+    case toolkit::WidgetKind::CommandButton:
+      if (key.name == KeyName::Enter || key.character == U' ') push(widget);
+      return key.name != KeyName::Enter;
+    case toolkit::WidgetKind::CheckBox:
+      if (key.character == U' ') push(widget);
+      return true;
+    default:
+      return true;
+  }
+}
+
+bool Hands::pressInField(toolkit::EditableText& field, Key key) {
   TextBuffer& buffer = bufferOf(field);
   switch (key.name) {
     case KeyName::Left:
-      return buffer.left();
+      buffer.left();
+      return true;
     case KeyName::Right:
-      return buffer.right();
+      buffer.right();
+      return true;
     case KeyName::Home:
-      return buffer.home();
+      buffer.home();
+      return true;
     case KeyName::End:
-      return buffer.end();
+      buffer.end();
+      return true;
     case KeyName::Delete:
       if (field.Kind() == toolkit::WidgetKind::TextBox && buffer.erase()) {
         byHand(field, "Change", [&] { surfaceOf(field).raise(field.Change); });
       }
-      return;
+      return true;
     default:
-      if (key.character != 0) typeInto(field, key.character);
+      return key.character == 0 || typeInto(field, key.character) == key.character;
   }
 }
 
-bool Hands::typeInto(toolkit::EditableText& field, char32_t character) {
+bool Hands::pressInListView(ListView& list, Key key) {
+  const std::int32_t last = list.rowCount() - 1;
+  const std::int32_t current = list.selected();
+  std::int32_t wanted = current;
+  switch (key.name) {
+    case KeyName::Up:
+      wanted = current < 0 ? last : std::max(current - 1, 0);
+      break;
+    case KeyName::Down:
+      wanted = std::min(current + 1, last);
+      break;
+    case KeyName::Home:
+      wanted = std::min(0, last);
+      break;
+    case KeyName::End:
+      wanted = last;
+      break;
+    default:
+      return key.character == 0 || keyPress(list, key.character) == key.character;
+  }
+  if (wanted >= 0) list.select(wanted);
+  return true;
+}
+
+template <class Keyed>
+std::optional<char32_t> Hands::keyPress(Keyed& widget, char32_t character) {
   const std::int16_t given = keyCodeOf(character);
   std::int16_t code = given;
-  byHand(field, "KeyPress", [&] { surfaceOf(field).raise(field.KeyPress, code); });
-  if (code == 0 || !obstacle(field).empty()) return false;
-  if (code != given) character = code > 0 ? static_cast<char32_t>(code) : 0;
-  if (field.Kind() == toolkit::WidgetKind::TextBox) take(static_cast<TextBox&>(field), character);
-  return true;
+  byHand(widget, "KeyPress", [&] { surfaceOf(widget).raise(widget.KeyPress, code); });
+  if (code == 0 || !obstacle(widget).empty()) return std::nullopt;
+  if (code == given) return character;
+  return code > 0 ? static_cast<char32_t>(code) : 0;
+}
+
+std::optional<char32_t> Hands::typeInto(toolkit::EditableText& field, char32_t character) {
+  const std::optional<char32_t> left = keyPress(field, character);
+  if (left && field.Kind() == toolkit::WidgetKind::TextBox) take(static_cast<TextBox&>(field), *left);
+  return left;
 }
 
 void Hands::take(TextBox& box, char32_t character) {

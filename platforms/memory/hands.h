@@ -2,15 +2,22 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
+#include <utility>
+#include <vector>
 
+#include "platforms/laid_down.h"
 #include "platforms/memory/keys.h"
 #include "platforms/operator.h"
 
 namespace qvn::memory {
 
 class ComboBox;
+class Form;
+class ListView;
 class Platform;
+class Surface;
 class TextBox;
 class TextBuffer;
 
@@ -27,17 +34,38 @@ class Hands final : public Operator {
   void choose(toolkit::ComboBox& list, std::int32_t index) override;
   void choose(toolkit::ComboBox& list, std::string_view item) override;
 
+  void layDown(std::string_view form, std::vector<Act> acts) override { laidDown_.add(form, std::move(acts)); }
+  std::vector<FailedAct> failedActs() override { return laidDown_.takeFailed(); }
+  void takePictures(bool take) override { laidDown_.takePictures(take); }
+  std::vector<FormPicture> shown() override { return laidDown_.takePicturesTaken(); }
+
+  /// Does at a form that has just come to stand what was laid down for it, until the showing is over or nothing is left
+  /// but to close it by its frame.
+  void attend(const toolkit::Form& form, Surface& surface, const bool& over);
+
  private:
+  void act(const toolkit::Form& form, Surface& surface, const Act& act);
+  void actAtList(ListView& list, const Act& act);
+
   void own(const toolkit::Widget& widget) const;
   toolkit::Widget& held() const;
   toolkit::EditableText& heldField() const;
 
-  void press(toolkit::Widget& widget, Key key);
-  void pressInField(toolkit::EditableText& field, Key key);
+  /// Presses a key at what has the focus. "invalid call" if nothing has it, unless a form stands.
+  void press(Key key);
+  /// False if the widget has used the key up, so that it does not reach its form.
+  bool pressIn(toolkit::Widget& widget, Key key);
+  bool pressInField(toolkit::EditableText& field, Key key);
+  bool pressInListView(ListView& list, Key key);
   void pressInList(ComboBox& list, Key key);
+  /// Presses the default or the cancel button of a form, where the key is for one and the form still stands.
+  void pressOnForm(Surface& form, Key key);
   void tab(toolkit::Widget& from, bool backwards);
-  /// Raises KeyPress; what the handler leaves of the key goes into the field. False if it was refused.
-  bool typeInto(toolkit::EditableText& field, char32_t character);
+  /// Raises KeyPress, and returns what the handler leaves of the key; nothing if it was refused.
+  template <class Keyed>
+  std::optional<char32_t> keyPress(Keyed& widget, char32_t character);
+  /// The same, and what is left goes into the field.
+  std::optional<char32_t> typeInto(toolkit::EditableText& field, char32_t character);
   void take(TextBox& box, char32_t character);
   /// Moves the focus to the list and picks what is found once it is there; -1 is nothing.
   template <class Find>
@@ -46,6 +74,7 @@ class Hands final : public Operator {
   void push(toolkit::Widget& buttonOrCheckBox);
 
   Platform& platform_;
+  LaidDown laidDown_;
 };
 
 }  // namespace qvn::memory

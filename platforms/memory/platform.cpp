@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "platforms/memory/surface.h"
-#include "qvn/shared/failure.h"
 
 namespace qvn::memory {
 
@@ -14,9 +13,8 @@ std::unique_ptr<toolkit::Surface> Platform::makeSurface(const toolkit::PanelLayo
   return surface;
 }
 
-std::unique_ptr<toolkit::Form> Platform::makeForm(const toolkit::FormLayout& layout,
-                                                  toolkit::Container& /*container*/) {
-  throw Failure(FailureKind::InvalidCall, std::string(layout.inside.name).append(": the memory platform has no forms"));
+std::unique_ptr<toolkit::Form> Platform::makeForm(const toolkit::FormLayout& layout, toolkit::Container& container) {
+  return std::make_unique<Form>(*this, layout, container);
 }
 
 void Platform::beep() {
@@ -27,10 +25,6 @@ void Platform::beep() {
 void Platform::watch(Watcher* watcher) {
   watcher_ = watcher;
   focus_.watch(watcher);
-}
-
-toolkit::Form& Platform::NoForms::at(std::int32_t index) const {
-  throw Failure(FailureKind::SubscriptOutOfRange, "no form is loaded, so there is none at " + std::to_string(index));
 }
 
 }  // namespace qvn::memory

@@ -8,6 +8,7 @@
 
 #include "platforms/memory/clock.h"
 #include "platforms/memory/focus.h"
+#include "platforms/memory/form.h"
 #include "platforms/memory/hands.h"
 #include "platforms/memory/turns.h"
 #include "platforms/operator.h"
@@ -16,7 +17,8 @@
 namespace qvn::memory {
 
 /// A toolkit whose widgets behave as an operator's screen would, in one thread and without a window. Dates show but
-/// take no typing, and there are no forms.
+/// take no typing. A form that is shown modally waits for nobody: the operator's hands do at once what was laid down
+/// for it, and close it by its frame if it still stands then.
 ///
 /// A panel may be dropped at any moment, from inside a handler of its own as well; nothing more is raised on it then.
 /// Handlers that call each other without end fail with "invalid call" before the stack is used up.
@@ -27,9 +29,7 @@ class Platform final : public toolkit::Platform {
   Platform& operator=(const Platform&) = delete;
 
   std::string_view name() const override { return "memory"; }
-  toolkit::Capabilities capabilities() const override { return {.dateTyping = false, .modalForms = false}; }
-  /// "invalid call", naming the widget, on a layout with a list view or a grid, or with a frame that no row above has
-  /// made.
+  toolkit::Capabilities capabilities() const override { return {.dateTyping = false, .modalForms = true}; }
   std::unique_ptr<toolkit::Surface> makeSurface(const toolkit::PanelLayout& layout, toolkit::Container& container,
                                                 std::string name) override;
   std::unique_ptr<toolkit::Form> makeForm(const toolkit::FormLayout& layout, toolkit::Container& container) override;
@@ -53,27 +53,23 @@ class Platform final : public toolkit::Platform {
   /// No drivers until a host adds its own.
   toolkit::Drivers& drivers() override { return drivers_; }
 
-  Operator& hands() { return hands_; }
+  Hands& hands() { return hands_; }
   /// Tells the watcher from now on what happens; null stops it. It must outlive the platform or be taken away before.
   void watch(Watcher* watcher);
 
-  /// For the platform's own widgets.
+  /// For the platform's own widgets and forms.
+  Watcher* watcher() const { return watcher_; }
+  LoadedForms& loadedForms() { return forms_; }
   Focus& focus() { return focus_; }
   Turns& turns() { return turns_; }
 
  private:
-  class NoForms final : public toolkit::Forms {
-   public:
-    std::int32_t count() const override { return 0; }
-    toolkit::Form& at(std::int32_t index) const override;
-  };
-
   Turns turns_;
   Focus focus_{turns_};
   Hands hands_{*this};
   Clock clock_;
   Locale locale_;
-  NoForms forms_;
+  LoadedForms forms_;
   toolkit::Drivers drivers_;
   Watcher* watcher_ = nullptr;
   std::int64_t beeps_ = 0;

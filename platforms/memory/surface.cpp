@@ -7,9 +7,12 @@
 #include "platforms/memory/check_box.h"
 #include "platforms/memory/combo_box.h"
 #include "platforms/memory/command_button.h"
+#include "platforms/memory/data_control.h"
+#include "platforms/memory/data_grid.h"
 #include "platforms/memory/date_control.h"
 #include "platforms/memory/frame.h"
 #include "platforms/memory/label.h"
+#include "platforms/memory/list_view.h"
 #include "platforms/memory/platform.h"
 #include "platforms/memory/text_box.h"
 
@@ -40,7 +43,10 @@ constexpr std::array kMakers{makerOf<TextBox>(toolkit::WidgetKind::TextBox),
                              makerOf<CheckBox>(toolkit::WidgetKind::CheckBox),
                              makerOf<Frame>(toolkit::WidgetKind::Frame),
                              makerOf<CommandButton>(toolkit::WidgetKind::CommandButton),
-                             makerOf<DateControl>(toolkit::WidgetKind::DateControl)};
+                             makerOf<DateControl>(toolkit::WidgetKind::DateControl),
+                             makerOf<ListView>(toolkit::WidgetKind::ListView),
+                             makerOf<DataGrid>(toolkit::WidgetKind::DataGrid),
+                             makerOf<DataControl>(toolkit::WidgetKind::DataControl)};
 
 const Maker* makerFor(toolkit::WidgetKind kind) {
   for (const Maker& maker : kMakers) {
@@ -52,8 +58,14 @@ const Maker* makerFor(toolkit::WidgetKind kind) {
 }  // namespace
 
 Surface::Surface(Platform& platform, const toolkit::PanelLayout& layout, toolkit::Container& container,
-                 std::string name)
-    : platform_(platform), layout_(layout), container_(container), name_(std::move(name)) {}
+                 std::string name, const std::shared_ptr<const void>& form)
+    : platform_(platform),
+      layout_(layout),
+      container_(container),
+      name_(std::move(name)),
+      form_(form),
+      ofForm_(form != nullptr),
+      visible_(form == nullptr) {}
 
 Surface::~Surface() {
   while (!widgets_.empty()) {
@@ -63,7 +75,7 @@ Surface::~Surface() {
 }
 
 void Surface::operator delete(Surface* surface, std::destroying_delete_t) {
-  surface->gone_ = true;
+  surface->dropped_ = true;
   surface->platform_.focus().forget(*surface);
   surface->platform_.turns().drop(*surface);
 }
@@ -109,6 +121,12 @@ toolkit::Frame* Surface::frameNamed(const toolkit::WidgetLayout& row) const {
 }
 
 toolkit::Platform& Surface::platform() const { return platform_; }
+bool Surface::isCovered() const {
+  const Surface* front = platform_.focus().front();
+  return front != nullptr && front != this;
+}
+
+Watcher* Surface::watcher() const { return platform_.watcher(); }
 Turns& Surface::turns() const { return platform_.turns(); }
 
 void Surface::Visible(bool visible) {
@@ -125,7 +143,7 @@ void Surface::giveFocus(toolkit::Widget& widget) { platform_.focus().give(widget
 void Surface::checkFocus() { platform_.focus().check(); }
 
 void Surface::report(toolkit::Widget& widget, std::string_view event, const Failure& failure) noexcept {
-  if (!gone_) container_.handlerFailed(*this, widget, event, failure);
+  if (!dropped_ || !form_.expired()) container_.handlerFailed(*this, widget, event, failure);
 }
 
 }  // namespace qvn::memory

@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "platforms/memory/turns.h"
+#include "platforms/operator.h"
 #include "qvn/toolkit/container.h"
 #include "qvn/toolkit/surface.h"
 
@@ -21,9 +22,11 @@ namespace qvn::memory {
 class Platform;
 
 /// The widgets of one panel, made in one piece of memory.
-class Surface final : public toolkit::Surface {
+class Surface final : public toolkit::Surface, public Turns::Lasting {
  public:
-  Surface(Platform& platform, const toolkit::PanelLayout& layout, toolkit::Container& container, std::string name);
+  /// One of a form, told by what lives as long as the form, is hidden to begin with.
+  Surface(Platform& platform, const toolkit::PanelLayout& layout, toolkit::Container& container, std::string name,
+          const std::shared_ptr<const void>& form = {});
   ~Surface() override;
   /// Dropping a surface takes the focus from its widgets and raises nothing; inside a handler its memory stays until
   /// the outermost handler has returned.
@@ -42,20 +45,29 @@ class Surface final : public toolkit::Surface {
   void Visible(bool visible) override;
   bool Enabled() const override { return enabled_; }
   void Enabled(bool enabled) override;
+  /// For a surface whose widgets lose the focus by other means.
+  void hideWithoutEvents() { visible_ = false; }
 
-  /// Whether the surface was dropped and stands only until the handlers in progress have returned.
-  bool gone() const { return gone_; }
+  bool dropped() const override { return dropped_; }
 
-  /// Runs a widget's handler, if it is set and the surface is not gone.
+  bool isOfForm() const { return ofForm_; }
+  /// Whether a form stands on the screen before all that is not on it, and the surface is not that form's.
+  bool isCovered() const;
+
+  /// Runs a widget's handler, if it is set and the surface is not dropped.
   template <class... Args>
   void raise(const std::function<void(Args...)>& handler, std::type_identity_t<Args>... args) {
-    if (!handler || gone_) return;
+    if (!handler || dropped_) return;
     const Turn turn(turns());
     handler(std::forward<Args>(args)...);
   }
 
-  /// Hands a failure that the operator's hand has caused to the container, unless the surface is gone.
+  /// Hands a failure that the operator's hand has caused to the container, unless the surface is dropped; that of a
+  /// form that still lives hears of it then too.
   void report(toolkit::Widget& widget, std::string_view event, const Failure& failure) noexcept;
+
+  /// Who hears what happens on the platform, or null.
+  Watcher* watcher() const;
 
   /// SetFocus of one of the widgets.
   void giveFocus(toolkit::Widget& widget);
@@ -63,11 +75,12 @@ class Surface final : public toolkit::Surface {
   void checkFocus();
 
  private:
-  friend class Turns;
+  void hold() override { turns().begin(); }
+  void release() noexcept override { turns().end(); }
 
   Turns& turns() const;
   toolkit::Frame* frameNamed(const toolkit::WidgetLayout& row) const;
-  void destroy() noexcept;
+  void destroy() noexcept override;
 
   Platform& platform_;
   const toolkit::PanelLayout& layout_;
@@ -75,10 +88,11 @@ class Surface final : public toolkit::Surface {
   std::string name_;
   std::unique_ptr<std::byte[]> memory_;
   std::vector<toolkit::Widget*> widgets_;  // made in memory_, in the order of the layout
-  Surface* droppedBefore_ = nullptr;
-  bool visible_ = true;
+  std::weak_ptr<const void> form_;
+  bool ofForm_;
+  bool visible_;
   bool enabled_ = true;
-  bool gone_ = false;
+  bool dropped_ = false;
 };
 
 }  // namespace qvn::memory

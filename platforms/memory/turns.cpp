@@ -1,6 +1,5 @@
 #include "platforms/memory/turns.h"
 
-#include "platforms/memory/surface.h"
 #include "qvn/shared/failure.h"
 
 namespace qvn::memory {
@@ -17,19 +16,19 @@ Turns& Turns::withRoom() {
 void Turns::end() noexcept {
   if (--depth_ > 0) return;
   while (dropped_ != nullptr) {
-    Surface& surface = *dropped_;
-    dropped_ = surface.droppedBefore_;
-    surface.destroy();
+    Lasting& last = *dropped_;
+    dropped_ = last.droppedBefore_;
+    last.destroy();
   }
 }
 
-void Turns::drop(Surface& surface) noexcept {
+void Turns::drop(Lasting& dropped) noexcept {
   if (depth_ == 0) {
-    surface.destroy();
+    dropped.destroy();
     return;
   }
-  surface.droppedBefore_ = dropped_;
-  dropped_ = &surface;
+  dropped.droppedBefore_ = dropped_;
+  dropped_ = &dropped;
 }
 
 }  // namespace qvn::memory

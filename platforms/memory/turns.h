@@ -1,18 +1,34 @@
-// Handlers in progress, and the panels that were dropped inside one.
+// Handlers in progress, and the panels and forms that were dropped inside one.
 #pragma once
 
 namespace qvn::memory {
 
-class Surface;
-
 /// Counts the handlers and acts in progress on a platform. A surface that is dropped inside one keeps its memory, and
-/// its widgets theirs, until the outermost has returned; the handler that dropped it still stands on them.
+/// its widgets theirs, until the outermost has returned; the handler that dropped it still stands on them. The same
+/// with a form.
 class Turns {
  public:
+  /// What stands until the outermost turn has ended.
+  class Lasting {
+   public:
+    Lasting() = default;
+    Lasting(const Lasting&) = delete;
+    Lasting& operator=(const Lasting&) = delete;
+
+   protected:
+    ~Lasting() = default;
+
+   private:
+    friend class Turns;
+    virtual void destroy() noexcept = 0;
+
+    Lasting* droppedBefore_ = nullptr;
+  };
+
   /// Keeps the memory of what is dropped, for as long as it lives.
   class Keep {
    public:
-    explicit Keep(Turns& turns) : turns_(turns) { ++turns_.depth_; }
+    explicit Keep(Turns& turns) : turns_(turns) { turns_.begin(); }
     ~Keep() { turns_.end(); }
     Keep(const Keep&) = delete;
     Keep& operator=(const Keep&) = delete;
@@ -30,15 +46,18 @@ class Turns {
     Keep keep_;
   };
 
-  /// Destroys the surface, now or when the outermost turn has ended.
-  void drop(Surface& surface) noexcept;
+  /// The same as a Keep, for those that cannot have one: each begin() has its end().
+  void begin() noexcept { ++depth_; }
+  void end() noexcept;
+
+  /// Destroys what was dropped, now or when the outermost turn has ended.
+  void drop(Lasting& dropped) noexcept;
 
  private:
   Turns& withRoom();
-  void end() noexcept;
 
   int depth_ = 0;
-  Surface* dropped_ = nullptr;  // each knows the one dropped before it
+  Lasting* dropped_ = nullptr;  // each knows the one dropped before it
 };
 
 using Turn = Turns::Turn;

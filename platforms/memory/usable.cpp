@@ -1,6 +1,7 @@
 #include "platforms/memory/usable.h"
 
 #include "platforms/memory/surface.h"
+#include "qvn/shared/failure.h"
 
 namespace qvn::memory {
 
@@ -11,11 +12,11 @@ bool takesFocus(toolkit::WidgetKind kind) {
     case toolkit::WidgetKind::CheckBox:
     case toolkit::WidgetKind::CommandButton:
     case toolkit::WidgetKind::DateControl:
+    case toolkit::WidgetKind::ListView:
+    case toolkit::WidgetKind::DataGrid:
       return true;
     case toolkit::WidgetKind::Label:
     case toolkit::WidgetKind::Frame:
-    case toolkit::WidgetKind::ListView:
-    case toolkit::WidgetKind::DataGrid:
     case toolkit::WidgetKind::DataControl:
       return false;
   }
@@ -30,10 +31,22 @@ std::string_view obstacle(const toolkit::Widget& widget) {
     if (!frame->Visible()) return "its frame is hidden";
   }
   const auto& surface = static_cast<const Surface&>(widget.owner());
-  if (surface.gone()) return "its panel is gone";
+  if (surface.dropped()) return "its panel is gone";
   if (!surface.Enabled()) return "its panel is disabled";
-  if (!surface.Visible()) return "its panel is hidden";
+  if (!surface.Visible()) return surface.isOfForm() ? "its form is not shown" : "its panel is hidden";
+  if (surface.isCovered()) return "a form stands before it";
   return {};
+}
+
+void requirePlace(const toolkit::Widget& widget, std::string_view things, std::int32_t count, std::int32_t place) {
+  if (place >= 0 && place < count) return;
+  throw Failure(FailureKind::SubscriptOutOfRange, fullName(widget)
+                                                      .append(" has ")
+                                                      .append(std::to_string(count))
+                                                      .append(" ")
+                                                      .append(things)
+                                                      .append(" and none at ")
+                                                      .append(std::to_string(place)));
 }
 
 std::string fullName(const toolkit::Widget& widget) {

@@ -50,6 +50,19 @@ void append(std::string& text, char32_t character) {
   for (std::size_t byte = 1; byte < bytes; ++byte) text.push_back(static_cast<char>(0x80U | (shifted(byte) & 0x3FU)));
 }
 
+bool isValid(std::string_view text) {
+  constexpr std::size_t kReplacementBytes = 3;
+  while (!text.empty()) {
+    if (static_cast<unsigned char>(text.front()) < 0x80) {
+      text.remove_prefix(1);
+      continue;
+    }
+    const std::size_t before = text.size();
+    if (takeFirst(text) == kReplacement && before - text.size() != kReplacementBytes) return false;
+  }
+  return true;
+}
+
 std::string valid(std::string_view text) {
   std::string result;
   result.reserve(text.size());

@@ -14,6 +14,9 @@ char32_t takeFirst(std::string_view& text);
 
 void append(std::string& text, char32_t character);
 
+/// Whether every byte of the text belongs to a character.
+bool isValid(std::string_view text);
+
 /// The text with the replacement character for each byte that belongs to no character.
 std::string valid(std::string_view text);
 

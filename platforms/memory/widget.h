@@ -47,12 +47,13 @@ class Common : public Interface {
   bool hasFocus() const final { return surface_.platform().focused() == this; }
 
  protected:
+  /// With the back that widgets of its kind have.
   Common(const Making& making, std::uint32_t back)
       : layout_(making.layout),
         surface_(making.surface),
         frame_(making.frame),
         place_(making.layout.place),
-        back_(back),
+        back_(making.layout.back.value_or(back)),
         fore_(making.layout.fore),
         enabled_(making.layout.enabled),
         visible_(making.layout.visible) {}

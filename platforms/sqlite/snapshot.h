@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <span>
 #include <sqlite3.h>
 #include <string>
 #include <string_view>
@@ -25,6 +26,7 @@ class Snapshot final : public toolkit::Rows {
   /// there is no memory for a text.
   void add(sqlite3_stmt* statement);
 
+  std::span<const std::string> columns() const override { return *columns_; }
   bool atEnd() const override { return row_ == rows_; }
   void next() override;
   Variant value(std::string_view column) const override;

@@ -1,8 +1,9 @@
 #include "qvn/fields/text_field.h"
 
+#include <string>
+
 #include "qvn/fields/Gest_SCHEDE.h"
-#include "qvn/shared/conversions.h"
-#include "qvn/shared/failure.h"
+#include "qvn/fields/shown_number.h"
 #include "qvn/toolkit/container.h"
 #include "qvn/toolkit/platform.h"
 
@@ -10,24 +11,12 @@ namespace qvn::fields {
 
 namespace {
 
-const Locale& localeOf(const toolkit::Widget& widget) { return widget.owner().platform().locale(); }
-
-/// A conversion of the box's text whose failure names the box.
-template <class Convert>
-auto read(const toolkit::TextBox& box, Convert&& convert) {
-  try {
-    return convert(box.Text(), localeOf(box));
-  } catch (const Failure& failure) {
-    throw failure.within(box.Name());
-  }
-}
-
 /// The announcement before may have dropped the panel: only the box is touched, which lives until the key is done.
 void keepPercent(toolkit::TextBox& box) {
   const std::string text = box.Text();
   std::string_view corrected = "0";
   if (!text.empty()) {
-    if (read(box, [](std::string_view t, const Locale& locale) { return toInt16(t, locale); }) < 101) return;
+    if (int16Of(box) < 101) return;
     corrected = "100";
   }
   box.Text(corrected);
@@ -38,7 +27,7 @@ void keepPercent(toolkit::TextBox& box) {
 
 void announce(const toolkit::Widget& widget, std::string_view property) {
   toolkit::Surface& panel = widget.owner();
-  panel.container().PropertyChanged(panel, property);
+  if (!panel.dropped()) panel.container().PropertyChanged(panel, property);
 }
 
 void wire(toolkit::TextBox& box, std::string_view property, Filter filter, std::int16_t limit) {
@@ -63,8 +52,12 @@ void show(toolkit::TextBox& box, std::string_view text) {
   if (box.Text() != text) box.Text(text);
 }
 
-std::uint8_t byteOf(const toolkit::TextBox& box) {
-  return read(box, [](std::string_view t, const Locale& locale) { return toByte(t, locale); });
+void showAmount(toolkit::TextBox& box, Currency amount) {
+  if (currencyOf(box) != amount) box.Text(format(amount, Pattern::Currency, box.owner().platform().locale()));
+}
+
+void rewrite(toolkit::TextBox& box, Pattern pattern) {
+  box.Text(formatText(box.Text(), pattern, box.owner().platform().locale()));
 }
 
 }  // namespace qvn::fields

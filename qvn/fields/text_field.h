@@ -4,11 +4,13 @@
 #include <cstdint>
 #include <string_view>
 
+#include "qvn/shared/currency.h"
+#include "qvn/shared/patterns.h"
 #include "qvn/toolkit/widget.h"
 
 namespace qvn::fields {
 
-/// Tells the container that a public property of the widget's panel has changed.
+/// Tells the container that a public property of the widget's panel has changed, unless the panel was dropped.
 void announce(const toolkit::Widget& widget, std::string_view property);
 
 /// A key filter of Gest_SCHEDE; the last argument is its limit of length or decimals.
@@ -28,7 +30,11 @@ void wirePercent(toolkit::TextBox& box, std::string_view property);
 /// Writes the text if the box shows another.
 void show(toolkit::TextBox& box, std::string_view text);
 
-/// The box's text as a number from 0 to 255. Fails with "type mismatch" or "overflow", naming the box.
-std::uint8_t byteOf(const toolkit::TextBox& box);
+/// Writes the amount under "Currency" if the box's text is another; an equal one stays in the form that it has. Fails
+/// as currencyOf() does on a text that is no amount.
+void showAmount(toolkit::TextBox& box, Currency amount);
+
+/// Writes the box's own text under a pattern; what is no number stays.
+void rewrite(toolkit::TextBox& box, Pattern pattern);
 
 }  // namespace qvn::fields

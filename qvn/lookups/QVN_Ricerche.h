@@ -1,4 +1,4 @@
-// From a code to what goes with it, by one query on the shared connection.
+// From a code to what goes with it, and from a few letters to a code, by one query on the shared connection.
 //
 // Each function first fires MancaDB if the connection is closed, whatever its key. A text key can come back without its
 // quotes. Where no row is found, or the key is empty and nothing is asked, the answer is the empty text or 0. A query
@@ -53,5 +53,38 @@ std::string CercaDESC_CONTO(std::string& MASTRO, std::string& CONTO);
 
 /// The initials of a sub-branch, SOTTORAMI.sigla; its number is held as text and goes into the statement as it is.
 std::string CercaSIGLA(std::string& COD_SRAMO);
+
+// The pick lists. Each shows, modally on the form Lista, the rows that its code or else its description narrows, and
+// gives the code of the row that the operator confirms, without blanks around it: the empty text if the list was
+// closed, or if no row was found and there was nothing to show. All arguments come back without their quotes.
+//
+// A row is a description and a code. A code narrows to the codes that begin with it, behind "!" to the descriptions
+// that do; an empty one leaves the description to narrow, and where both are empty all rows stand in the list. A query
+// that fails, or a Null in a column, passes on with the forms left loaded, over which the next list loads. A list that
+// is opened while another is shown fails with "invalid call", and leaves that one as it is.
+
+/// SOTTORAMI.COD_SRAMO. The code is a number, matched whole; one that is no number counts as empty. Of the third
+/// argument the quotes go, and nothing else comes of it.
+std::string ListaSOTTORAMI(std::string& COD_SRAMO, std::string& description, std::string& unused);
+
+/// COMPAGNIE.COD_COMP.
+std::string ListaCOMPAGNIE(std::string& COD_COMP, std::string& description);
+
+/// MASTRI.MASTRO.
+std::string ListaMASTRI(std::string& MASTRO, std::string& description);
+
+/// CLIENTI.COD_CLIENTE.
+std::string ListaCLIENTI(std::string& COD_CLIENTE, std::string& description);
+
+/// TIPI_IVA.COD_IVA. The code is a number, matched whole; one that is no number counts as empty, and "0" is emptied.
+std::string ListaTIPI_IVA(std::string& COD_IVA, std::string& description);
+
+/// PRODUTTORI.COD_PROD.
+std::string ListaPRODUTTORI(std::string& COD_PROD, std::string& description);
+
+/// CONTI.MASTRO and CONTO, with "?" between them both in the code and in the answer. The ledger is matched whole, the
+/// account by its beginning; "%" in the place of either is any. Nothing is asked where code and description are empty;
+/// a code without "?" fails with "invalid call", quoting it.
+std::string ListaCONTI(std::string& MASTRO_CONTO, std::string& description);
 
 }  // namespace qvn::QVN_Ricerche

@@ -38,6 +38,13 @@ std::span<const LookupFunction> lookupFunctions() {
       describe("CercaR_ACC", CercaR_ACC),
       describe("CercaSIGLA", CercaSIGLA),
       describe("CercaTIPO_SK", CercaTIPO_SK),
+      describe("ListaCLIENTI", ListaCLIENTI),
+      describe("ListaCOMPAGNIE", ListaCOMPAGNIE),
+      describe("ListaCONTI", ListaCONTI),
+      describe("ListaMASTRI", ListaMASTRI),
+      describe("ListaPRODUTTORI", ListaPRODUTTORI),
+      describe("ListaSOTTORAMI", ListaSOTTORAMI),
+      describe("ListaTIPI_IVA", ListaTIPI_IVA),
   };
   return functions;
 }

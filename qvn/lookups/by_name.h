@@ -1,4 +1,4 @@
-// The free lookups by their names, for sessions and component hosts.
+// The free lookups and pick lists by their names, for sessions and component hosts.
 #pragma once
 
 #include <functional>
@@ -10,14 +10,14 @@
 
 namespace qvn {
 
-/// One lookup; its arguments are in/out.
+/// One lookup or pick list; its arguments are in/out.
 struct LookupFunction {
   std::string_view name;
   std::string_view type;  ///< of the result; empty for none
   std::function<Variant(std::span<Variant>, const Locale&)> call;
 };
 
-/// The lookups of the library, sorted by name.
+/// The lookups and pick lists of the library, sorted by name.
 std::span<const LookupFunction> lookupFunctions();
 
 /// Calls a lookup by its name, without regard to case. Arguments are in/out. "no such member" if there is none of that

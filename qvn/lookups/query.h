@@ -28,9 +28,11 @@ class Query {
  public:
   Query(std::initializer_list<std::string_view> pieces, Cursor cursor = {});
 
+  /// Whether there is a current row: the first, to begin with.
   bool found() const { return !rows_.Eof(); }
+  void next() { rows_.MoveNext(); }
 
-  /// The first row's value in a column.
+  /// The current row's value in a column.
   Variant value(std::string_view column) const { return rows_.Fields(column); }
 
   /// The value converted: std::string, Currency or std::int16_t. A Null fails with "invalid use of null", a value that

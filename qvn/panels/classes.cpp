@@ -4,6 +4,8 @@
 #include <array>
 #include <string>
 
+#include "qvn/panels/accounting/ctlINS_IVA.h"
+#include "qvn/panels/commissions/ctlPROV_POLIZZE.h"
 #include "qvn/panels/master/ctlIVA.h"
 #include "qvn/shared/failure.h"
 
@@ -19,7 +21,9 @@ constexpr PanelClass describe(std::string_view name) {
 }
 
 constexpr std::array kClasses{
+    describe<ctlINS_IVA>("ctlINS_IVA"),
     describe<ctlIVA>("ctlIVA"),
+    describe<ctlPROV_POLIZZE>("ctlPROV_POLIZZE"),
 };
 static_assert(std::ranges::is_sorted(kClasses, {}, &PanelClass::name));
 

@@ -1,5 +1,9 @@
 #include "qvn/shared/Globale.h"
 
+#include <map>
+#include <typeindex>
+#include <utility>
+
 #include "qvn/shared/failure.h"
 
 namespace qvn::Globale {
@@ -10,10 +14,12 @@ struct Shared {
   toolkit::Platform* platform = nullptr;
   std::unique_ptr<toolkit::Connection> db;
   std::shared_ptr<clsQVN_Eventi> eventi;
+  std::map<std::type_index, std::shared_ptr<void>> others;
 };
 
 Shared& shared() {
-  static Shared instance;
+  // Stands to the end of the program: by then the platform that the objects of upper floors lie on may be gone.
+  static Shared& instance = *new Shared;
   return instance;
 }
 
@@ -46,7 +52,10 @@ std::shared_ptr<clsQVN_Eventi> Eventi() {
   return eventi;
 }
 
+std::shared_ptr<void>& place(const std::type_info& type) { return shared().others[type]; }
+
 void unload() {
+  std::exchange(shared().others, {}).clear();
   shared().eventi.reset();
   shared().db.reset();
 }

@@ -41,6 +41,8 @@ constexpr std::string_view typeName() {
     return "variant";
   } else if constexpr (std::is_same_v<Plain, CurrencyArray>) {
     return "array of currency";
+  } else if constexpr (std::is_same_v<Plain, EventsReference>) {
+    return "clsQVN_Eventi";
   } else if constexpr (std::is_same_v<Plain, std::string> || std::is_same_v<Plain, std::string_view>) {
     return "text";
   } else {

@@ -57,7 +57,7 @@ double leadingNumber(std::string_view text);
 /// days, and a number as a date is so many days, its decimals (a double's among its 15 significant digits) dropped; a
 /// text as a date is "dd/mm/yyyy" or "0.00.00". As text, numbers and dates give their general text, a boolean "True" or
 /// "False". A number out of range is an "overflow"; what cannot become the target, an array as anything else or
-/// anything else as an array, is a "type mismatch".
+/// anything else as an array, or an object as anything but a variant, is a "type mismatch".
 template <class Target>
 Target as(const Variant& value, const Locale& locale);
 

@@ -80,8 +80,9 @@ std::string formatText(std::string_view text, Pattern pattern, const Locale& loc
 std::string formatValue(const Variant& value, Pattern pattern, const Locale& locale) {
   if (isNull(value) || isEmpty(value)) return {};
   if (const auto* text = std::get_if<std::string>(&value)) return formatText(*text, pattern, locale);
-  if (std::holds_alternative<CurrencyArray>(value)) {
-    throw Failure(FailureKind::TypeMismatch, "an array of currency has no text");
+  if (std::holds_alternative<CurrencyArray>(value) || std::holds_alternative<EventsReference>(value)) {
+    throw Failure(FailureKind::TypeMismatch,
+                  std::string("a value of kind ").append(kindName(value)).append(" has no text"));
   }
   if (isOfDates(pattern)) return format(as<Date>(value, locale), pattern).str();
   if (const auto* date = std::get_if<Date>(&value)) return format(*date, pattern).str();

@@ -72,7 +72,7 @@ std::string formatText(std::string_view text, Pattern pattern, const Locale& loc
 
 /// Any value under a pattern. Null and Empty give the empty text, a text what formatText() gives. A boolean is "True"
 /// or "False" under General and -1 or 0 under a number pattern; a number under a date pattern counts days. Fails with
-/// "type mismatch" on an array.
+/// "type mismatch" on an array or an object.
 std::string formatValue(const Variant& value, Pattern pattern, const Locale& locale);
 
 }  // namespace qvn

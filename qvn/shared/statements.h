@@ -39,6 +39,49 @@ inline constexpr std::string_view kESPOSIZIONE =
 inline constexpr std::string_view kESPOSIZIONE_COMP = "') AND ((QUOTE_POLIZZE.COD_COMP)='";
 inline constexpr std::string_view kESPOSIZIONE_END = "'))";
 
+/// The texts of one pick list. A code or a description that is compared by Like is followed by kLikeEnd; a number
+/// stands bare at the end.
+struct PickListTexts {
+  std::string_view byDescription;
+  std::string_view byCode;
+  std::string_view all;          ///< empty where a list of all rows is not to be had
+  std::string_view marked = {};  ///< asked with no key: for a number that begins with "!", which none does
+};
+
+inline constexpr std::string_view kLikeEnd = "%'";
+
+inline constexpr PickListTexts kListaCOMPAGNIE{
+    .byDescription = "Select DESC_COMPAGNIA, COD_COMP From COMPAGNIE Where DESC_COMPAGNIA Like '",
+    .byCode = "Select DESC_COMPAGNIA, COD_COMP From COMPAGNIE Where COD_COMP  Like '",
+    .all = "Select DESC_COMPAGNIA, COD_COMP From COMPAGNIE"};
+inline constexpr PickListTexts kListaMASTRI{
+    .byDescription = "Select DESCRIZIONE, MASTRO From Mastri Where DESCRIZIONE Like '",
+    .byCode = "Select DESCRIZIONE, MASTRO From Mastri Where MASTRO Like '",
+    .all = "Select DESCRIZIONE, MASTRO From Mastri"};
+inline constexpr PickListTexts kListaCLIENTI{
+    .byDescription = "Select DESC_CLIENTE, COD_CLIENTE From CLIENTI Where DESC_CLIENTE Like '",
+    .byCode = "Select DESC_CLIENTE, COD_CLIENTE From CLIENTI Where COD_CLIENTE Like '",
+    .all = "Select DESC_CLIENTE, COD_CLIENTE From CLIENTI"};
+inline constexpr PickListTexts kListaPRODUTTORI{
+    .byDescription = "Select DENOMINAZIONE, COD_PROD From PRODUTTORI Where DENOMINAZIONE Like '",
+    .byCode = "Select DENOMINAZIONE, COD_PROD From PRODUTTORI Where COD_PROD Like '",
+    .all = "Select DENOMINAZIONE, COD_PROD From PRODUTTORI"};
+inline constexpr PickListTexts kListaSOTTORAMI{
+    .byDescription = "Select DESCRIZIONE, COD_SRAMO From SOTTORAMI Where DESCRIZIONE Like '",
+    .byCode = "Select DESCRIZIONE, COD_SRAMO From SOTTORAMI Where COD_SRAMO = ",
+    .all = "Select DESCRIZIONE, COD_SRAMO From SOTTORAMI"};
+inline constexpr PickListTexts kListaTIPI_IVA{
+    .byDescription = "Select DESCRIZIONE, COD_IVA From TIPI_IVA Where DESCRIZIONE Like '",
+    .byCode = "Select DESCRIZIONE, COD_IVA From TIPI_IVA Where COD_IVA = ",
+    .all = "Select DESCRIZIONE, COD_IVA From TIPI_IVA",
+    .marked = "Select DESCRIZIONE, COD_IVA From TIPI_IVA Where DESCRIZIONE like '"};
+// The ledger stands behind byCode, whole; the account, if one is asked for, behind kQuoteAndLikeCONTO.
+inline constexpr PickListTexts kListaCONTI{
+    .byDescription = "Select DESCRIZIONE, MASTRO, CONTO From CONTI Where DESCRIZIONE Like '",
+    .byCode = "Select DESCRIZIONE, MASTRO, CONTO From CONTI Where MASTRO Like '",
+    .all = {}};
+inline constexpr std::string_view kQuoteAndLikeCONTO = "' AND CONTO LIKE '";
+
 /// A group of statements that no panel issues yet. Those that end in a quote or a blank take a key behind them.
 struct Reserve {
   std::string_view title;  ///< of the pick list, empty where there is none

@@ -35,13 +35,15 @@ const Currency& element(const CurrencyArray& array, std::span<const std::size_t>
 }
 
 /// What a variant is to a comparison.
-enum class Standing : std::uint8_t { Nothing, Empty, Number, Text, Array };
+enum class Standing : std::uint8_t { Nothing, Empty, Number, Text, Whole };
 
 Standing standingOf(const Variant& value) {
   if (isNull(value)) return Standing::Nothing;
   if (isEmpty(value)) return Standing::Empty;
   if (std::holds_alternative<std::string>(value)) return Standing::Text;
-  if (std::holds_alternative<CurrencyArray>(value)) return Standing::Array;
+  if (std::holds_alternative<CurrencyArray>(value) || std::holds_alternative<EventsReference>(value)) {
+    return Standing::Whole;
+  }
   return Standing::Number;
 }
 
@@ -71,7 +73,7 @@ const Currency& CurrencyArray::at(std::size_t i, std::size_t j) const { return e
 std::string_view kindName(const Variant& value) {
   static constexpr std::array<std::string_view, std::variant_size_v<Variant>> names{
       "Empty",   "Null", "boolean", "8-bit unsigned integer", "16-bit integer", "32-bit integer", "double", "currency",
-      "decimal", "date", "text",    "array of currency",
+      "decimal", "date", "text",    "array of currency",      "object",
   };
   return names.at(value.index());
 }
@@ -80,9 +82,8 @@ std::partial_ordering compare(const Variant& a, const Variant& b) {
   const Standing left = standingOf(a);
   const Standing right = standingOf(b);
   if (left == Standing::Nothing || right == Standing::Nothing) return std::partial_ordering::unordered;
-  if (left == Standing::Array || right == Standing::Array) {
-    return left == right && std::get<CurrencyArray>(a) == std::get<CurrencyArray>(b) ? std::partial_ordering::equivalent
-                                                                                     : std::partial_ordering::unordered;
+  if (left == Standing::Whole || right == Standing::Whole) {
+    return a == b ? std::partial_ordering::equivalent : std::partial_ordering::unordered;
   }
   const bool texts = left == Standing::Text || right == Standing::Text;
   if (texts && left != Standing::Number && right != Standing::Number) return textOf(a) <=> textOf(b);
@@ -103,6 +104,7 @@ VariantNumber::VariantNumber(const Variant& value) {
     std::optional<Digits> operator()(Date date) const { return digitsOf(std::int64_t{date.days()}, 0); }
     std::optional<Digits> operator()(const std::string&) const { return std::nullopt; }
     std::optional<Digits> operator()(const CurrencyArray&) const { return std::nullopt; }
+    std::optional<Digits> operator()(const EventsReference&) const { return std::nullopt; }
   };
   digits_ = std::visit(Reading{room_}, value);
 }

@@ -4,6 +4,7 @@
 #include <compare>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -14,6 +15,8 @@
 #include "qvn/shared/decimal.h"
 
 namespace qvn {
+
+class clsQVN_Eventi;
 
 /// Nothing was ever put here: converts to the empty text or 0.
 struct Empty {
@@ -37,8 +40,11 @@ struct CurrencyArray {
   friend bool operator==(const CurrencyArray&, const CurrencyArray&) = default;
 };
 
+/// A reference to the event object, as the panels' `Events` gives it.
+using EventsReference = std::shared_ptr<clsQVN_Eventi>;
+
 using Variant = std::variant<Empty, Null, bool, std::uint8_t, std::int16_t, std::int32_t, double, Currency, Decimal,
-                             Date, std::string, CurrencyArray>;
+                             Date, std::string, CurrencyArray, EventsReference>;
 
 inline bool isNull(const Variant& value) { return std::holds_alternative<Null>(value); }
 inline bool isEmpty(const Variant& value) { return std::holds_alternative<Empty>(value); }
@@ -49,8 +55,8 @@ std::string_view kindName(const Variant& value);
 /// How two values stand to each other. Unordered where either is Null: every test on it is then false. Empty compares
 /// as the empty text with a text and as 0 otherwise; numbers, booleans and dates compare by value, two doubles exactly
 /// and a double with any other by its 15 significant digits, so that doubles which differ may both equal one amount;
-/// texts compare exactly; a number stands before any text. Equal arrays are equivalent, and an array is unordered to
-/// anything else.
+/// texts compare exactly; a number stands before any text. Equal arrays are equivalent, as are references to one
+/// object; otherwise an array or a reference is unordered to anything else.
 std::partial_ordering compare(const Variant& a, const Variant& b);
 
 }  // namespace qvn

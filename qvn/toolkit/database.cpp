@@ -25,7 +25,8 @@ void Connection::Open(std::string_view connectionString, std::string_view user, 
                           .user = user,
                           .password = password,
                           .options = options,
-                          .cursorLocation = cursorLocation_});
+                          .cursorLocation = cursorLocation_,
+                          .viewer = viewer_});
 }
 
 std::unique_ptr<Rows> Connection::run(const Statement& statement) {

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,6 +36,8 @@ struct Statement {
 class Rows {
  public:
   virtual ~Rows() = default;
+  /// The names of the columns as the answer has them, in its order, rows or none.
+  virtual std::span<const std::string> columns() const = 0;
   /// No current row: none was found, or next() went past the last.
   virtual bool atEnd() const = 0;
   /// Goes to the next row. "database" past the end.
@@ -60,6 +63,7 @@ struct Opening {
   std::string_view password = {};
   std::int32_t options = adOptionUnspecified;
   std::int32_t cursorLocation = 0;
+  std::string_view viewer = {};  ///< the form whose data control opens; empty for the library's one connection
 };
 
 /// One kind of database, told by the head of its connection strings, "sqlite:" for one.
@@ -86,7 +90,8 @@ class Drivers {
 /// A connection: closed when made, opened by a connection string through one of the drivers.
 class Connection {
  public:
-  explicit Connection(const Drivers& drivers) : drivers_(&drivers) {}
+  /// A data control names its form as the viewer, which drivers are told.
+  explicit Connection(const Drivers& drivers, std::string_view viewer = {}) : drivers_(&drivers), viewer_(viewer) {}
 
   /// 0 closed, 1 open.
   std::int32_t State() const { return session_ ? 1 : 0; }
@@ -107,6 +112,7 @@ class Connection {
 
  private:
   const Drivers* drivers_;
+  std::string viewer_;
   std::unique_ptr<Session> session_;
   std::string connectionString_;
   std::int32_t cursorLocation_ = 2;

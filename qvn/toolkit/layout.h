@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string_view>
 
@@ -61,6 +62,7 @@ struct WidgetLayout {
   bool bordered = false;  ///< a label with a border around it
   bool bold = false;
   std::uint32_t fore = kBlack;
+  std::optional<std::uint32_t> back = {};  ///< the colour of a back other than the kind's own
   std::string_view tooltip = {};
   std::span<const std::string_view> items = {};  ///< the items of a closed list
   bool defaultButton = false;                    ///< pressed by Enter anywhere on its form

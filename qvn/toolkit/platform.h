@@ -44,15 +44,16 @@ class Platform {
 
   /// A new panel's widgets, as laid out, under the host's name of the panel. Layout and container must live as long as
   /// the surface. Fails with "invalid call", naming panel and widget, on a widget that the platform does not have, on a
-  /// frame that no row above has made, and on a closed list that starts with a text that is not among its items; with
-  /// "type mismatch" on a date control that starts with a text that is none.
+  /// frame or a grid's data control that no row above has made, on a closed list that starts with a text that is not
+  /// among its items, and on a grid's number format that names no pattern; with "type mismatch" on a date control that
+  /// starts with a text that is none.
   virtual std::unique_ptr<Surface> makeSurface(const PanelLayout& layout, Container& container, std::string name) = 0;
 
   /// A form, not loaded, as laid out. What its handlers fail with under the operator's hand goes to the container.
   /// Layout and container must live as long as the form. "invalid call" on a platform without forms.
   virtual std::unique_ptr<Form> makeForm(const FormLayout& layout, Container& container) = 0;
 
-  /// The widget that holds the focus among all panels, or null.
+  /// The widget that holds the focus among all panels and forms, or null.
   virtual Widget* focused() const = 0;
 
   /// The platform's own, for as long as it lives.

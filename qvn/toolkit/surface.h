@@ -2,8 +2,10 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <string_view>
+#include <utility>
 
 #include "qvn/toolkit/widget.h"
 
@@ -56,6 +58,37 @@ class Surface {
   ListView& listView(std::string_view name) const;
   DataGrid& grid(std::string_view name) const;
   DataControl& dataControl(std::string_view name) const;
+
+  /// Whether the surface was dropped and only its memory still stands. Nothing is raised or announced then.
+  virtual bool dropped() const = 0;
+
+  /// Takes what the handlers use beside the widgets, once. It lives as long as their memory, so that a handler may go
+  /// on with it where the panel's own object is gone.
+  template <class Object>
+  Object& keep(std::unique_ptr<Object> object) {
+    Object& kept = *object;
+    kept_ = std::move(object);
+    return kept;
+  }
+
+  /// While one lives, the surface's memory stands if it is dropped, as it does inside a handler. A member that goes on
+  /// after a write which may be announced holds one.
+  class Hold {
+   public:
+    explicit Hold(Surface& surface) : surface_(surface) { surface_.hold(); }
+    ~Hold() { surface_.release(); }
+    Hold(const Hold&) = delete;
+    Hold& operator=(const Hold&) = delete;
+
+   private:
+    Surface& surface_;
+  };
+
+ private:
+  virtual void hold() = 0;
+  virtual void release() noexcept = 0;
+
+  std::shared_ptr<void> kept_;
 };
 
 }  // namespace qvn::toolkit

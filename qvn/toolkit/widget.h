@@ -49,8 +49,8 @@ class Widget {
   virtual bool Visible() const = 0;
   virtual void Visible(bool visible) = 0;
 
-  /// White to begin with for text boxes, closed lists and date fields, the gray of faces for all others; ForeColor is
-  /// the layout's. Switching a widget off changes neither.
+  /// The layout's to begin with; where it tells no back, white for text boxes, closed lists, date fields, list views
+  /// and grids, the gray of faces for all others. Switching a widget off changes neither.
   virtual std::uint32_t BackColor() const = 0;
   virtual void BackColor(std::uint32_t colour) = 0;
   virtual std::uint32_t ForeColor() const = 0;

@@ -1,4 +1,4 @@
-// The reserve statements.
+// The texts of the pick lists and the reserve statements.
 #include "qvn/shared/statements.h"
 
 #include <gtest/gtest.h>
@@ -14,6 +14,46 @@ struct Group {
   std::string fieldName;
   std::string heading;
 };
+
+TEST(PickListStatements, HoldTheirTexts) {
+  using namespace statements;
+  struct Texts {
+    const PickListTexts& texts;
+    std::string byDescription;
+    std::string byCode;
+    std::string all;
+    std::string marked;
+  };
+  const std::vector<Texts> lists{
+      {kListaCOMPAGNIE, "Select DESC_COMPAGNIA, COD_COMP From COMPAGNIE Where DESC_COMPAGNIA Like '",
+       "Select DESC_COMPAGNIA, COD_COMP From COMPAGNIE Where COD_COMP  Like '",
+       "Select DESC_COMPAGNIA, COD_COMP From COMPAGNIE", ""},
+      {kListaMASTRI, "Select DESCRIZIONE, MASTRO From Mastri Where DESCRIZIONE Like '",
+       "Select DESCRIZIONE, MASTRO From Mastri Where MASTRO Like '", "Select DESCRIZIONE, MASTRO From Mastri", ""},
+      {kListaCLIENTI, "Select DESC_CLIENTE, COD_CLIENTE From CLIENTI Where DESC_CLIENTE Like '",
+       "Select DESC_CLIENTE, COD_CLIENTE From CLIENTI Where COD_CLIENTE Like '",
+       "Select DESC_CLIENTE, COD_CLIENTE From CLIENTI", ""},
+      {kListaPRODUTTORI, "Select DENOMINAZIONE, COD_PROD From PRODUTTORI Where DENOMINAZIONE Like '",
+       "Select DENOMINAZIONE, COD_PROD From PRODUTTORI Where COD_PROD Like '",
+       "Select DENOMINAZIONE, COD_PROD From PRODUTTORI", ""},
+      {kListaSOTTORAMI, "Select DESCRIZIONE, COD_SRAMO From SOTTORAMI Where DESCRIZIONE Like '",
+       "Select DESCRIZIONE, COD_SRAMO From SOTTORAMI Where COD_SRAMO = ",
+       "Select DESCRIZIONE, COD_SRAMO From SOTTORAMI", ""},
+      {kListaTIPI_IVA, "Select DESCRIZIONE, COD_IVA From TIPI_IVA Where DESCRIZIONE Like '",
+       "Select DESCRIZIONE, COD_IVA From TIPI_IVA Where COD_IVA = ", "Select DESCRIZIONE, COD_IVA From TIPI_IVA",
+       "Select DESCRIZIONE, COD_IVA From TIPI_IVA Where DESCRIZIONE like '"},
+      {kListaCONTI, "Select DESCRIZIONE, MASTRO, CONTO From CONTI Where DESCRIZIONE Like '",
+       "Select DESCRIZIONE, MASTRO, CONTO From CONTI Where MASTRO Like '", "", ""},
+  };
+  for (const Texts& list : lists) {
+    EXPECT_EQ(list.texts.byDescription, list.byDescription);
+    EXPECT_EQ(list.texts.byCode, list.byCode);
+    EXPECT_EQ(list.texts.all, list.all);
+    EXPECT_EQ(list.texts.marked, list.marked);
+  }
+  EXPECT_EQ(kLikeEnd, "%'");
+  EXPECT_EQ(kQuoteAndLikeCONTO, "' AND CONTO LIKE '");
+}
 
 TEST(ReserveStatements, HoldTheirTextsTitlesAndNames) {
   const std::vector<Group> groups{

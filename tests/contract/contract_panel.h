@@ -76,7 +76,7 @@ inline constexpr toolkit::PanelLayout kContractLayout{
 
 /// Each test has a platform of its own with one panel, "panel". What happens goes into `heard` in one order: the
 /// watcher's "lost A", "got B", "beep", and whatever the test's handlers write there.
-class ContractPanel : public testing::TestWithParam<PlatformMaker>, private Watcher {
+class ContractPanel : public testing::TestWithParam<PlatformMaker>, protected Watcher {
  public:
   ContractPanel() { under_->watch(this); }
   ~ContractPanel() override { under_->watch(nullptr); }

@@ -205,6 +205,75 @@ TEST_P(Dropping, ReleasesWhatTheHandlersHold) {
   EXPECT_EQ(held.use_count(), 1);
 }
 
+TEST_P(Dropping, IsToldByTheSurface) {
+  toolkit::Surface& surface = panel();
+  EXPECT_FALSE(surface.dropped());
+  bool told = false;
+  box().Change = [&] {
+    dropPanel();
+    told = surface.dropped();
+  };
+  box().Text("1");
+  EXPECT_TRUE(told);
+}
+
+TEST_P(Dropping, ReleasesAtOnceWhatTheSurfaceKeeps) {
+  const auto held = std::make_shared<int>(1);
+  panel().keep(std::make_unique<std::shared_ptr<int>>(held));
+  EXPECT_EQ(held.use_count(), 2);
+  dropPanel();
+  EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_P(Dropping, InAHandlerLeavesItWhatTheSurfaceKeeps) {
+  const auto held = std::make_shared<int>(1);
+  const auto& kept = panel().keep(std::make_unique<std::shared_ptr<int>>(held));
+  box().Change = [this, &kept] {
+    dropPanel();
+    EXPECT_EQ(*kept, 1);
+  };
+  box().Text("1");
+  EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_P(Dropping, WhileItIsHeldLeavesTheWidgetsUsableAndSilent) {
+  const auto held = std::make_shared<int>(1);
+  toolkit::Surface& surface = panel();
+  surface.keep(std::make_unique<std::shared_ptr<int>>(held));
+  toolkit::TextBox& field = box();
+  toolkit::Label& text = label();
+  listen(field);
+  text.Change = hears("label Change");
+  {
+    const toolkit::Surface::Hold outer(surface);
+    {
+      const toolkit::Surface::Hold inner(surface);
+      EXPECT_FALSE(surface.dropped());
+      dropPanel();
+    }
+    heard.clear();
+    EXPECT_TRUE(surface.dropped());
+    EXPECT_EQ(&field.owner(), &surface);
+    field.Text("ancora");
+    text.Caption("ancora");
+    EXPECT_EQ(field.Text(), "ancora");
+    EXPECT_EQ(text.Caption(), "ancora");
+    EXPECT_FAILURE(field.SetFocus(), FailureKind::InvalidCall, "A");
+    EXPECT_EQ(held.use_count(), 2);
+    EXPECT_THAT(heard, IsEmpty());
+  }
+  EXPECT_EQ(held.use_count(), 1);
+}
+
+TEST_P(Dropping, AHoldThatEndsLeavesASurfaceThatWasNotDropped) {
+  toolkit::Surface& surface = panel();
+  { const toolkit::Surface::Hold hold(surface); }
+  listen(box());
+  heard.clear();
+  box().Text("1");
+  EXPECT_THAT(heard, ElementsAre("Change"));
+}
+
 TEST_P(Dropping, OfSeveralPanelsInOneHandler) {
   auto second = another("second");
   auto third = another("third");

@@ -47,6 +47,18 @@ TEST_P(Widget, FieldsAreWhiteAndTheOthersGray) {
   }
 }
 
+TEST_P(Widget, HaveTheBackThatTheyAreLaidOutWith) {
+  static constexpr std::array<toolkit::WidgetLayout, 3> kRows{
+      {{.name = "Plain", .kind = toolkit::WidgetKind::Label},
+       {.name = "White", .kind = toolkit::WidgetKind::Label, .back = toolkit::kWhite},
+       {.name = "Black", .back = toolkit::kBlack}}};
+  static constexpr toolkit::PanelLayout kLayout{.name = "Backs", .widgets = kRows};
+  const auto surface = platform().makeSurface(kLayout, container(), "p");
+  EXPECT_EQ(surface->label("Plain").BackColor(), toolkit::kFaceGray);
+  EXPECT_EQ(surface->label("White").BackColor(), toolkit::kWhite);
+  EXPECT_EQ(surface->textBox("Black").BackColor(), toolkit::kBlack);
+}
+
 TEST_P(Widget, ColoursReadBackAsWritten) {
   for (toolkit::Widget* each : panel().widgets()) {
     each->BackColor(0x010203);

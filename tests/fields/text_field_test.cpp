@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "qvn/fields/Gest_SCHEDE.h"
+#include "qvn/fields/shown_number.h"
 #include "tests/failure_matchers.h"
 #include "tests/fields/field_bench.h"
 #include "tests/fields/stub_field.h"
@@ -30,6 +31,17 @@ TEST_P(TextFields, AreReadInThePlatformsLocale) {
   EXPECT_FAILURE(fields::byteOf(field("A")), FailureKind::TypeMismatch, "A: ");
   setLocale({.decimalSign = '.', .groupingSign = ','});
   EXPECT_EQ(fields::byteOf(field("A")), 7);
+}
+
+TEST_P(TextFields, ChangesAreAnnouncedUnlessThePanelWasDropped) {
+  auto surface = platform().makeSurface(kBenchLayout, container(), "altro");
+  const toolkit::Surface::Hold hold(*surface);
+  toolkit::TextBox& box = surface->textBox("A");
+  fields::announce(box, "A");
+  EXPECT_EQ(container().notices, std::vector<std::string>{"A"});
+  surface.reset();
+  fields::announce(box, "A");
+  EXPECT_EQ(container().notices, std::vector<std::string>{"A"});
 }
 
 TEST_P(TextFields, APercentIsAnnouncedBeforeItIsCorrected) {

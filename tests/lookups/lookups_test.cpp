@@ -477,7 +477,7 @@ TEST_P(Lookups, CalledByNameGiveBackWhatTheyWroteBeforeAFailure) {
   EXPECT_EQ(args, (std::vector<Variant>{of("22"), of("Ordinaria"), std::int16_t{5}}));
 }
 
-TEST_P(Lookups, AreTwelve) {
+TEST_P(Lookups, AreTwelveAndSevenPickLists) {
   std::string functions;
   for (const LookupFunction& function : lookupFunctions()) {
     functions.append(function.name).append(": ").append(function.type).append("\n");
@@ -494,7 +494,14 @@ TEST_P(Lookups, AreTwelve) {
             "CercaPROD_DEL_SOSPESO: text\n"
             "CercaR_ACC: currency\n"
             "CercaSIGLA: text\n"
-            "CercaTIPO_SK: 16-bit integer\n");
+            "CercaTIPO_SK: 16-bit integer\n"
+            "ListaCLIENTI: text\n"
+            "ListaCOMPAGNIE: text\n"
+            "ListaCONTI: text\n"
+            "ListaMASTRI: text\n"
+            "ListaPRODUTTORI: text\n"
+            "ListaSOTTORAMI: text\n"
+            "ListaTIPI_IVA: text\n");
 }
 
 }  // namespace

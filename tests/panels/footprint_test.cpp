@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "platforms/memory/platform.h"
+#include "qvn/panels/commissions/ctlPROV_POLIZZE.h"
 #include "qvn/panels/master/ctlIVA.h"
 #include "qvn/shared/Globale.h"
 #include "tests/allocations.h"
@@ -22,6 +23,25 @@ TEST(PanelFootprint, OfTheVatCodePanelIsUnderEightKibibytesAndGivenBack) {
     EXPECT_GT(peakBytes() - before, 500);
   }
   EXPECT_LT(peakBytes() - before, 8 * 1024);
+  EXPECT_EQ(liveBytes(), before);
+  Globale::uninstall();
+}
+
+TEST(PanelFootprint, OfTheCommissionPanelIsUnderSixtyFourKibibytesAndGivenBack) {
+  memory::Platform platform;
+  Globale::install(platform);
+  RecordingContainer container;
+  { const ctlPROV_POLIZZE first(PanelSite{container, "provv"}); }  // makes the shared objects, once
+  container.notices = {};
+  container.notices.reserve(100);
+  const std::int64_t before = liveBytes();
+  resetPeak();
+  {
+    const ctlPROV_POLIZZE panel(PanelSite{container, "provv"});
+    EXPECT_GT(peakBytes() - before, 2000);
+    container.notices.clear();
+  }
+  EXPECT_LT(peakBytes() - before, 64 * 1024);
   EXPECT_EQ(liveBytes(), before);
   Globale::uninstall();
 }

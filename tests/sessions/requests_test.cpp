@@ -33,6 +33,8 @@ TEST_F(Requests, ChooseByItemAndByIndex) {
               FailsAs("invalid call", "t.Combo1 has no item at 2"));
   EXPECT_THAT(play(R"({"do":"choose","panel":"t","widget":"Combo1"})"),
               FailsAs("bad request", R"(line 5: choose t.Combo1: the field "index" is missing)"));
+  EXPECT_THAT(play(R"({"do":"choose","panel":"t","widget":"Combo1","item":"AVERE","index":1})"),
+              FailsAs("bad request", R"(line 6: choose t.Combo1: it has an "item" and an "index")"));
   EXPECT_EQ(list.Text(), "DARE");
 }
 
@@ -67,6 +69,13 @@ TEST_F(Requests, NameWhatDoesNotConvertAndWhere) {
               FailsAs("type mismatch", R"(t.Somma: argument 2: the text "tre" is no number)"));
   EXPECT_THAT(play(R"({"do":"call","panel":"t","name":"Somma","args":[1,{}]})"),
               FailsAs("bad request", "line 5: call t.Somma: argument 2: no value of the protocol: {}"));
+}
+
+TEST_F(Requests, ShowArgumentsThatDoNotConvertAsTheyWereGiven) {
+  EXPECT_EQ(play(R"({"do":"call","panel":"t","name":"Totale","args":[[1,"tre"]]})")["args"].dump(), R"([[1,"tre"]])");
+  EXPECT_EQ(play(R"({"do":"lookup","name":"CercaIVA","args":[{"currency":"1.5"},["tre"],{"none":1}]})")["args"].dump(),
+            R"([{"currency":"1.5000"},["tre"],{"none":1}])");
+  EXPECT_FALSE(play(R"({"do":"lookup","name":"CercaIVA","args":[{"none":1},["tre"],0]})").contains("args"));
 }
 
 TEST_F(Requests, SurviveWhatIsThrownAndIsNoFailure) {

@@ -1,9 +1,11 @@
 #include <compare>
 #include <gtest/gtest.h>
 #include <limits>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "qvn/shared/clsQVN_Eventi.h"
 #include "qvn/shared/variant.h"
 #include "tests/failure_matchers.h"
 
@@ -30,8 +32,9 @@ void expect(const Variant& a, std::partial_ordering order, const Variant& b) {
 }
 
 std::vector<Variant> oneOfEachKind() {
-  return {Empty{}, true, std::uint8_t{1}, std::int16_t{1}, std::int32_t{1}, 1.0, amount(1), Decimal(),
-          Date(),  "1"s, CurrencyArray{}};
+  return {Empty{},         true, std::uint8_t{1}, std::int16_t{1},
+          std::int32_t{1}, 1.0,  amount(1),       Decimal(),
+          Date(),          "1"s, CurrencyArray{}, std::make_shared<clsQVN_Eventi>()};
 }
 
 TEST(Compare, ANullIsUnorderedToAll) {
@@ -133,7 +136,8 @@ TEST(Compare, TextsCompareExactly) {
 
 TEST(Compare, ANumberStandsBeforeAnyText) {
   for (const Variant& value : oneOfEachKind()) {
-    if (isEmpty(value) || std::holds_alternative<std::string>(value) || std::holds_alternative<CurrencyArray>(value)) {
+    if (isEmpty(value) || std::holds_alternative<std::string>(value) || std::holds_alternative<CurrencyArray>(value) ||
+        std::holds_alternative<EventsReference>(value)) {
       continue;
     }
     expect(value, kLess, ""s);
@@ -151,12 +155,21 @@ TEST(Compare, ArraysAreEquivalentOrUnordered) {
   expect(array, kUnordered, Empty{});
 }
 
+TEST(Compare, ReferencesAreEquivalentIfTheyAreToOneObject) {
+  const Variant one = std::make_shared<clsQVN_Eventi>();
+  expect(one, kSame, Variant(one));
+  expect(one, kUnordered, std::make_shared<clsQVN_Eventi>());
+  expect(one, kUnordered, amount(1));
+  expect(one, kUnordered, "object"s);
+  expect(one, kUnordered, CurrencyArray{});
+}
+
 TEST(Variant, KindsHaveNames) {
   std::vector<std::string_view> names{kindName(Null{})};
   for (const Variant& value : oneOfEachKind()) names.push_back(kindName(value));
-  const std::vector<std::string_view> expected{"Null",           "Empty",          "boolean", "8-bit unsigned integer",
-                                               "16-bit integer", "32-bit integer", "double",  "currency",
-                                               "decimal",        "date",           "text",    "array of currency"};
+  const std::vector<std::string_view> expected{
+      "Null",    "Empty", "boolean", "8-bit unsigned integer", "16-bit integer", "32-bit integer", "double", "currency",
+      "decimal", "date",  "text",    "array of currency",      "object"};
   EXPECT_EQ(names, expected);
 }
 

@@ -1,9 +1,11 @@
 #include <gtest/gtest.h>
 #include <initializer_list>
 #include <limits>
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "qvn/shared/clsQVN_Eventi.h"
 #include "qvn/shared/conversions.h"
 #include "qvn/shared/patterns.h"
 #include "tests/failure_matchers.h"
@@ -201,6 +203,16 @@ TEST(VariantConversions, AnArrayIsNothingElse) {
   EXPECT_EQ(to<CurrencyArray>(array), array);
   EXPECT_FAILURE(to<Currency>(array), FailureKind::TypeMismatch, "a value of kind array of currency is no number");
   EXPECT_FAILURE(to<CurrencyArray>("1"s), FailureKind::TypeMismatch, "a value of kind text is no array of currency");
+}
+
+TEST(VariantConversions, AnObjectIsNothingElse) {
+  const Variant object = std::make_shared<clsQVN_Eventi>();
+  EXPECT_EQ(as<Variant>(object, kItalian), object);
+  EXPECT_FAILURE(to<Currency>(object), FailureKind::TypeMismatch, "a value of kind object is no number");
+  EXPECT_FAILURE(to<bool>(object), FailureKind::TypeMismatch, "a value of kind object is no boolean");
+  EXPECT_FAILURE(to<Date>(object), FailureKind::TypeMismatch, "a value of kind object is no date");
+  EXPECT_FAILURE(to<std::string>(object), FailureKind::TypeMismatch, "a value of kind object has no text");
+  EXPECT_FAILURE(to<CurrencyArray>(object), FailureKind::TypeMismatch, "a value of kind object is no array");
 }
 
 TEST(VariantConversions, ConcatenationAddsTheText) {

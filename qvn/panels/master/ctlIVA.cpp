@@ -3,6 +3,7 @@
 #include <array>
 
 #include "qvn/fields/Gest_SCHEDE.h"
+#include "qvn/fields/shown_number.h"
 #include "qvn/fields/skip_failing.h"
 #include "qvn/fields/text_field.h"
 #include "qvn/shared/Globale.h"
