@@ -1,45 +1,22 @@
-// What a panel costs in memory: a typed digit with all its handlers, and making and dropping a panel.
+// What a panel costs on the memory platform: a typed digit with all its handlers, and making and dropping a panel.
 #include <benchmark/benchmark.h>
 #include <memory>
-#include <string>
 #include <vector>
 
-#include "platforms/memory/platform.h"
+#include "bench/panels/office.h"
+#include "qvn/panels/commissions/ctlPROV_POLIZZE.h"
 #include "qvn/panels/master/ctlIVA.h"
-#include "qvn/shared/Globale.h"
 #include "tests/allocations.h"
 
 namespace qvn::bench {
 namespace {
-
-/// A host that listens and does nothing.
-class Host final : public toolkit::Container {
- public:
-  void PropertyChanged(toolkit::Surface&, std::string_view name) override { benchmark::DoNotOptimize(name); }
-  void handlerFailed(toolkit::Surface&, toolkit::Widget&, std::string_view, const Failure&) noexcept override {
-    ++failures;
-  }
-
-  std::int64_t failures = 0;
-};
-
-/// The library on the memory platform.
-struct Office {
-  Office() { Globale::install(platform); }
-  ~Office() { Globale::unload(); }
-
-  std::unique_ptr<ctlIVA> panel() { return std::make_unique<ctlIVA>(PanelSite{.container = host, .name = "iva"}); }
-
-  memory::Platform platform;
-  Host host;
-};
 
 /// One digit over the selected one in TxtIVA: filter, text, notice and range rule. The argument is how many panels
 /// live.
 void typingADigit(benchmark::State& state) {
   Office office;
   std::vector<std::unique_ptr<ctlIVA>> panels(static_cast<std::size_t>(state.range(0)));
-  for (auto& panel : panels) panel = office.panel();
+  for (auto& panel : panels) panel = office.panel<ctlIVA>();
   ctlIVA& panel = *panels[panels.size() / 2];
   panel.Attiva();
   toolkit::TextBox& box = panel.surface().textBox("TxtIVA");
@@ -54,22 +31,27 @@ void typingADigit(benchmark::State& state) {
 }
 BENCHMARK(typingADigit)->Arg(1)->Arg(10'000);
 
-/// Making and dropping a panel of nine widgets, with the heap that it takes at its peak.
+/// Making and dropping a panel, with the heap that it takes while it lives and at its peak.
+template <class Panel>
 void makingAndDroppingAPanel(benchmark::State& state) {
   Office office;
-  office.panel();  // what is made once for all panels is not counted
+  office.panel<Panel>();  // what is made once for all panels is not counted
   const std::int64_t before = test::liveBytes();
   const std::int64_t allocationsBefore = test::allocationCount();
   test::resetPeak();
-  office.panel();
-  const std::int64_t taken = test::peakBytes() - before;
+  auto panel = office.panel<Panel>();
+  const std::int64_t live = test::liveBytes() - before;
+  const std::int64_t peak = test::peakBytes() - before;
   const std::int64_t allocations = test::allocationCount() - allocationsBefore;
+  panel.reset();
   if (test::liveBytes() != before) return state.SkipWithError("dropping the panel did not give back all that it took");
-  for (auto _ : state) benchmark::DoNotOptimize(office.panel());
-  state.counters["peak_bytes"] = static_cast<double>(taken);
+  for (auto _ : state) benchmark::DoNotOptimize(office.panel<Panel>());
+  state.counters["live_bytes"] = static_cast<double>(live);
+  state.counters["peak_bytes"] = static_cast<double>(peak);
   state.counters["allocations"] = static_cast<double>(allocations);
 }
-BENCHMARK(makingAndDroppingAPanel);
+BENCHMARK(makingAndDroppingAPanel<ctlIVA>);
+BENCHMARK(makingAndDroppingAPanel<ctlPROV_POLIZZE>);
 
 }  // namespace
 }  // namespace qvn::bench
