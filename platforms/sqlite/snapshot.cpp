@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
+#include <utility>
 
 #include "qvn/shared/failure.h"
 #include "qvn/shared/names.h"
@@ -50,51 +51,68 @@ Variant integer(std::int64_t value) {
 
 }  // namespace
 
-void Snapshot::add(sqlite3_stmt* statement) {
+void Snapshot::makeRoom() {
   constexpr std::size_t kUsualRow = 64;
-  if (rows_ == 0) cells_.reserve(kUsualRow);
+  constexpr std::size_t kRun = std::size_t{1} << 18U;
+  constexpr std::size_t kLargeRow = std::size_t{1} << 12U;  // beyond which a row may stretch its run
+  if (rows_ == 0) last_.reserve(kUsualRow);
+  if (last_.size() + kLargeRow <= kRun) return;
+  fullBytes_ += last_.size();
+  full_.push_back(std::move(last_));
+  last_ = Run();
+  last_.reserve(kRun);
+}
+
+void Snapshot::add(sqlite3_stmt* statement) {
+  makeRoom();
   const int count = static_cast<int>(columns_->size());
   for (int i = 0; i < count; ++i) {
     switch (sqlite3_column_type(statement, i)) {
       case SQLITE_INTEGER:
-        append(cells_, Cell::Integer);
-        append<std::int64_t>(cells_, sqlite3_column_int64(statement, i));
+        append(last_, Cell::Integer);
+        append<std::int64_t>(last_, sqlite3_column_int64(statement, i));
         break;
       case SQLITE_FLOAT:
-        append(cells_, Cell::Real);
-        append(cells_, sqlite3_column_double(statement, i));
+        append(last_, Cell::Real);
+        append(last_, sqlite3_column_double(statement, i));
         break;
       case SQLITE_TEXT: {
         const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, i));
         const auto length = static_cast<TextLength>(sqlite3_column_bytes(statement, i));
         if (text == nullptr) throw Failure(FailureKind::Database, "there is no memory for a text");
-        append(cells_, Cell::Text);
-        append(cells_, length);
-        cells_.insert(cells_.end(), text, text + length);
+        append(last_, Cell::Text);
+        append(last_, length);
+        last_.insert(last_.end(), text, text + length);
         break;
       }
       case SQLITE_BLOB:
-        append(cells_, Cell::Binary);
+        append(last_, Cell::Binary);
         break;
       default:
-        append(cells_, Cell::Null);
+        append(last_, Cell::Null);
         break;
     }
   }
   ++rows_;
-  if (cells_.size() > mostBytes_) throw Failure(FailureKind::Database, "it gives more rows than can be held");
+  if (fullBytes_ + last_.size() > mostBytes_)
+    throw Failure(FailureKind::Database, "it gives more rows than can be held");
 }
 
 void Snapshot::next() {
   if (atEnd()) throw Failure(FailureKind::Database, "there is no row behind the last one");
-  for (std::size_t i = 0; i < columns_->size(); ++i) at_ += sizeAt(&cells_[at_]);
+  const Run& run = current();
+  for (std::size_t i = 0; i < columns_->size(); ++i) at_ += sizeAt(&run[at_]);
   ++row_;
+  if (run_ == full_.size() || at_ < run.size()) return;
+  full_[run_] = Run();
+  ++run_;
+  at_ = 0;
 }
 
 Variant Snapshot::value(std::string_view column) const {
   const std::string name(column);
   if (atEnd()) throw Failure(FailureKind::Database, "there is no row to read the column \"" + name + "\" of");
-  const char* cell = &cells_[at_];
+  const char* cell = &current()[at_];
   for (const std::string& known : *columns_) {
     if (!sameName(known, column)) {
       cell += sizeAt(cell);

@@ -62,6 +62,24 @@ TEST(Snapshot, HoldsAMillionSortedRows) {
   EXPECT_TRUE(sorted);
 }
 
+TEST(Snapshot, HoldsShortAndLongRowsInAnyOrder) {
+  Host host(":memory:");
+  host.exec(
+      "CREATE TABLE T (N INTEGER, LENGTH INTEGER);"
+      "WITH RECURSIVE C(N) AS (SELECT 0 UNION ALL SELECT N + 1 FROM C WHERE N < 199)"
+      "INSERT INTO T SELECT N, CASE N % 7 WHEN 0 THEN 300000 WHEN 3 THEN 5000 WHEN 5 THEN 0 ELSE N END FROM C");
+  sqlite::Session session(host.release());
+  const auto rows =
+      session.run({.sql = "Select N, substr(printf('%.*c', 300000, 'x'), 1, LENGTH) AS A, LENGTH From T Order By N"});
+  for (int n = 0; n < 200; ++n, rows->next()) {
+    ASSERT_FALSE(rows->atEnd());
+    EXPECT_EQ(std::get<std::int32_t>(rows->value("N")), n);
+    const auto length = static_cast<std::size_t>(std::get<std::int32_t>(rows->value("LENGTH")));
+    EXPECT_EQ(std::get<std::string>(rows->value("A")), std::string(length, 'x'));
+  }
+  EXPECT_TRUE(rows->atEnd());
+}
+
 TEST(Session, OverAnOpenDatabaseOnlyReadsToo) {
   Host host(":memory:");
   host.exec(officeSchema());
