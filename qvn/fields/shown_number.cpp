@@ -14,11 +14,7 @@ namespace {
 /// A conversion of a text that the widget shows; its failure names the widget.
 template <class Number>
 Number read(const toolkit::Widget& widget, std::string_view text, Number (*convert)(std::string_view, const Locale&)) {
-  try {
-    return convert(text, widget.owner().platform().locale());
-  } catch (const Failure& failure) {
-    throw failure.within(widget.Name());
-  }
+  return placed(widget.Name(), [&] { return convert(text, widget.owner().platform().locale()); });
 }
 
 }  // namespace

@@ -47,11 +47,7 @@ Query::Query(std::initializer_list<std::string_view> pieces, Cursor cursor) {
 template <class Convert>
 auto Query::converted(std::string_view column, Convert&& convert) const {
   const Variant stored = value(column);
-  try {
-    return convert(stored);
-  } catch (const Failure& failure) {
-    throw failure.within(column);
-  }
+  return placed(column, [&] { return convert(stored); });
 }
 
 template <class Target>

@@ -58,11 +58,7 @@ using Held =
 /// An argument as the type that it is held in. Its failures say which of the arguments it is, from 1.
 template <class Target>
 Target argument(std::span<const Variant> args, std::size_t index, const Locale& locale) {
-  try {
-    return as<Target>(args[index], locale);
-  } catch (const Failure& failure) {
-    throw failure.within("argument " + std::to_string(index + 1));
-  }
+  return placed("argument " + std::to_string(index + 1), [&] { return as<Target>(args[index], locale); });
 }
 
 /// Calls a function with as many variants as it has parameters, each converted to its parameter's type. Parameters that

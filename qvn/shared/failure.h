@@ -4,6 +4,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace qvn {
 
@@ -35,5 +36,15 @@ class Failure : public std::runtime_error {
  private:
   FailureKind kind_;
 };
+
+/// Does the work and gives its result; a failure of it has the place put in front.
+template <class Work>
+decltype(auto) placed(std::string_view place, Work&& work) {
+  try {
+    return std::forward<Work>(work)();
+  } catch (const Failure& failure) {
+    throw failure.within(place);
+  }
+}
 
 }  // namespace qvn

@@ -401,12 +401,97 @@ TEST_P(VatLine, ForwardWithoutARateGivesZero) {
   EXPECT_TRUE(container().failures.empty());
 }
 
-TEST_P(VatLine, ForwardDividesFirst) {
-  rate(9, "STRANA", 7);
-  panel.COD_IVA("9");
+TEST_P(VatLine, ForwardDividesBeforeItMultiplies) {
+  rate(5, "RIDOTTA", 5);
+  panel.COD_IVA("5");
   panel.Attiva();
-  enter(taxable, "0,5");
-  EXPECT_EQ(panel.IVA(), euro(4));  // 0,035 in the ledger
+  enter(taxable, "23944965898829,7");
+  EXPECT_EQ(vat.Text(), "€ 1.197.248.294.941,48");  // ,49 the other way round
+}
+
+TEST_P(VatLine, BackwardDividesBeforeItMultiplies) {
+  ready();
+  enter(vat, "4376007573644,77");
+  EXPECT_EQ(taxable.Text(), "€ 21.880.037.868.223,80");  // ,90 the other way round
+}
+
+TEST_P(VatLine, ForwardClearsANegativeVatToo) {
+  ready();
+  panel.IVA(euro(-500));
+  enter(taxable, "1000");
+  amounts("€ 1.000,00", "€ 0,00");
+}
+
+TEST_P(VatLine, BackwardLeavesANegativeTaxable) {
+  ready();
+  panel.IMPONIBILE(euro(-1000));
+  enter(vat, "77");
+  amounts("-€ 10,00", "€ 77,00");
+}
+
+TEST_P(VatLine, ForwardThatOnlyClearsDoesNotLookAtTheTaxable) {
+  ready();
+  panel.IVA(euro(500));
+  taxable.Text("abc");
+  hands().focus(taxable);
+  hands().leave();
+  EXPECT_TRUE(container().failures.empty());
+  amounts("abc", "€ 0,00");
+}
+
+TEST_P(VatLine, BackwardReadsTheTaxableWhateverTheVat) {
+  ready();
+  taxable.Text("abc");
+  hands().focus(vat);
+  hands().leave();
+  EXPECT_EQ(reported().kind, FailureKind::TypeMismatch);
+  EXPECT_NE(reported().message.find("TxtIMPONIBILE"), std::string::npos);
+}
+
+TEST_P(VatLine, EachDirectionRewritesTheVatBeforeTheTaxable) {
+  ready();
+  panel.IMPONIBILE(euro(100));
+  panel.IVA(euro(20));
+  for (toolkit::TextBox* left : {&taxable, &vat}) {
+    hands().focus(*left);
+    taxable.Text("1");
+    vat.Text("7");
+    container().notices.clear();
+    hands().leave();
+    EXPECT_EQ(container().notices.back(), "IMPONIBILE");
+    EXPECT_EQ(container().notices.front(), "IVA");
+  }
+}
+
+TEST_P(VatLine, AnEmptiedAmountIsZeroBeforeItIsAnnounced) {
+  ready();
+  for (toolkit::TextBox* field : {&taxable, &vat}) {
+    hands().focus(*field);
+    hands().type("9");
+    std::vector<std::string> texts;
+    container().onNotice = [&](toolkit::Surface&, std::string_view) { texts.push_back(field->Text()); };
+    hands().type("{Backspace}");
+    container().onNotice = {};
+    EXPECT_EQ(texts, (std::vector<std::string>{"0", "0"}));
+  }
+}
+
+TEST_P(VatLine, AnAmountIsColouredBeforeItIsRewritten) {
+  ready();
+  panel.IMPONIBILE(euro(100));
+  std::uint32_t back = 0;
+  container().onNotice = [&](toolkit::Surface&, std::string_view) { back = taxable.BackColor(); };
+  hands().focus(taxable);
+  EXPECT_EQ(back, kCyan);
+}
+
+TEST_P(VatLine, DisattivaPassesOnWhatLeavingTheFieldFailsWith) {
+  panel.Attiva();
+  hands().focus(vat);
+  hands().type("50");
+  EXPECT_FAILURE(panel.Disattiva(), FailureKind::TypeMismatch, "lblIVA: ");
+  EXPECT_FALSE(frame.Enabled());
+  EXPECT_EQ(platform().focused(), nullptr);
 }
 
 TEST_P(VatLine, BackwardLeavesANegativeVat) {

@@ -65,6 +65,12 @@ std::string columnText(std::string_view value) {
   return std::string(value);
 }
 
+/// What is worked out must fit the currency type, though more could be shown.
+std::string fittingForm(const Exact& value, Ties ties = Ties::AwayFromZero) {
+  currencyOf(value);
+  return currencyForm(value, ties);
+}
+
 std::string currencyValue(std::int64_t amount) { return "currency " + std::to_string(amount); }
 
 }  // namespace
@@ -235,7 +241,8 @@ void CommissionsModel::quotaRule() {
     const Computed share = Computed::product(amount(shared_[i]), amount(quota), 3);
     const std::int64_t lead = lead_[i];
     caption(static_cast<LabelNumber>(kLblPN + i), share.decided([&](const Exact& value) {
-      return currencyForm(isLead_ ? amount(sumOf(currencyOf(value), lead)) : value);
+      const std::int64_t fitting = currencyOf(value);
+      return currencyForm(isLead_ ? amount(sumOf(fitting, lead)) : value);
     }));
   }
   for (std::size_t party = 0; party < 3; ++party) {
@@ -258,7 +265,7 @@ void CommissionsModel::percentRule(std::size_t party, std::size_t component) {
   const std::int64_t base = currencyOf(baseOf(party, component));
   const Computed product = Computed::product(amount(base), amount(currencyOf(percent)), 2);
   write(amountBox(party, component),
-        product.decided([this](const Exact& value) { return currencyForm(value, rules_->amountTies); }));
+        product.decided([this](const Exact& value) { return fittingForm(value, rules_->amountTies); }));
 }
 
 void CommissionsModel::recompute(std::size_t party) {
@@ -284,7 +291,7 @@ void CommissionsModel::totals() {
   const Exact own = amount(sumOfParties({kProducer}));
   const Computed both =
       Computed::product(alternate, amount(alternateRate), 2) + Computed::product(own, amount(rate), 2);
-  caption(kRIT_ACCONTO, both.decided([](const Exact& value) { return currencyForm(value); }));
+  caption(kRIT_ACCONTO, both.decided([](const Exact& value) { return fittingForm(value); }));
 }
 
 void CommissionsModel::values(const Given& array) {

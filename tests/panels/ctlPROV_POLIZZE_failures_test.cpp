@@ -277,16 +277,16 @@ TEST_P(CommissionFailures, AQuotaThatFailedStaysAndIsNotAppliedAgain) {
 
 constexpr std::string_view kHuge = "900000000000000";
 
-TEST_P(CommissionFailures, APremiumBeyondMoneyIsShownAndFailsInWhatReadsIt) {
+TEST_P(CommissionFailures, APremiumBeyondMoneyFailsAndLeavesThoseBefore) {
   everybody();
-  panel->VALORI(figures({kHuge, "0", kHuge, "0", kHuge, "0"}));
-  panel->QUOTA(2000);
-  EXPECT_EQ(caption("LblPN"), "€ 1.800.000.000.000.000,00");
+  panel->VALORI(figures({"1000", "0", kHuge, "0", "1000", "0"}));
+  EXPECT_FAILURE(panel->QUOTA(2000), FailureKind::Overflow, "LblACC: ");
+  EXPECT_EQ(caption("LblPN"), "€ 2.000,00");
+  EXPECT_EQ(caption("LblACC"), "€ 0,00");
+  EXPECT_EQ(caption("LblPL"), "€ 0,00");
+  EXPECT_EQ(panel->QUOTA(), 2000);
   forget();
-  EXPECT_FAILURE(panel->P_PN_UFF(percent("1")), FailureKind::Overflow, "TxtPN_UFF: LblPN: ");
-  EXPECT_EQ(text("TxtP_PN_UFF"), "1,00");
-  EXPECT_EQ(text("TxtPN_UFF"), "0,00");
-  EXPECT_FAILURE(panel->TOTALI(), FailureKind::Overflow, "TxtPN_UFF: LblPN: ");
+  EXPECT_FAILURE(panel->TOTALI(), FailureKind::Overflow, "LblACC: ");
   EXPECT_THAT(asked(), IsEmpty());
 }
 
@@ -306,13 +306,22 @@ TEST_P(CommissionFailures, ThePremiumAndWhatGoesToTheLeadFailTogetherToo) {
   EXPECT_FAILURE(panel->VALORI(figures({kHuge, kHuge, "0", "0", "0", "0"})), FailureKind::Overflow, "LblPN: ");
 }
 
-TEST_P(CommissionFailures, AnAmountBeyondMoneyIsShownAndFailsTheSummary) {
+TEST_P(CommissionFailures, AnAmountBeyondMoneyFailsAndStaysAsItWas) {
   everybody();
   premiums(kHuge, "0");
-  panel->P_PN_UFF(percent("200"));
-  EXPECT_EQ(text("TxtPN_UFF"), "€ 1.800.000.000.000.000,00");
-  EXPECT_FAILURE(panel->PN_UFF(), FailureKind::Overflow, "TxtPN_UFF: ");
-  EXPECT_FAILURE(panel->TOTALI(), FailureKind::Overflow, "PROVV_ATTIVE: TxtPN_UFF: ");
+  panel->P_PN_UFF(percent("100"));
+  EXPECT_FAILURE(panel->P_PN_UFF(percent("200")), FailureKind::Overflow, "TxtPN_UFF: ");
+  EXPECT_EQ(text("TxtP_PN_UFF"), "200,00");
+  EXPECT_EQ(text("TxtPN_UFF"), "€ 900.000.000.000.000,00");
+}
+
+TEST_P(CommissionFailures, AWithholdingBeyondMoneyFailsAndTheSumsStand) {
+  producer("P9", "CARO", std::int32_t{0}, std::int32_t{150});
+  panel->COD_PRODUTTORE("P9");
+  panel->PN_PROD(money(kHuge));
+  EXPECT_FAILURE(panel->TOTALI(), FailureKind::Overflow, "RIT_ACCONTO: ");
+  EXPECT_EQ(caption("PROVV_PASSIVE"), "€ 900.000.000.000.000,00");
+  EXPECT_EQ(caption("RIT_ACCONTO"), "€ 0,00");
 }
 
 TEST_P(CommissionFailures, ASumBeyondMoneyFailsAndTheOtherStays) {

@@ -82,9 +82,10 @@ void amountChanged(toolkit::TextBox& box, std::string_view property) {
 /// Any VAT that stands is cleared, and a new one comes at the next leaving.
 void taxableLeft(toolkit::TextBox& taxable, toolkit::TextBox& vat, const toolkit::Label& rate) {
   Gest_SCHEDE::ColoreFuoco(taxable, Gest_SCHEDE::kAtRest);
-  const bool none = currencyOf(vat) == Currency();
-  if (none && !rate.Caption().empty()) {
-    const double due = toDouble(currencyOf(taxable)) / 100.0 * fields::int16Of(rate);
+  const Currency standing = currencyOf(vat);
+  if (!rate.Caption().empty() && standing == Currency()) {
+    const double hundredth = toDouble(currencyOf(taxable)) / 100.0;
+    const double due = hundredth * fields::int16Of(rate);
     vat.Text(format(due, Pattern::General, vat.owner().platform().locale()));
   } else {
     vat.Text("0");
@@ -95,9 +96,9 @@ void taxableLeft(toolkit::TextBox& taxable, toolkit::TextBox& vat, const toolkit
 
 void vatLeft(toolkit::TextBox& vat, toolkit::TextBox& taxable, const toolkit::Label& rate) {
   Gest_SCHEDE::ColoreFuoco(vat, Gest_SCHEDE::kAtRest);
-  const bool none = currencyOf(taxable) == Currency();
+  const Currency standing = currencyOf(taxable);
   const Currency due = currencyOf(vat);
-  if (none && due > Currency()) {
+  if (standing == Currency() && due > Currency()) {
     const std::int16_t percent = fields::int16Of(rate);
     if (percent == 0) {
       throw Failure(FailureKind::DivisionByZero, std::string(vat.Text()).append(" divided by a rate of 0"))

@@ -15,12 +15,14 @@ namespace qvn {
 /// still 0; leaving the VAT works out a taxable amount that is still 0, by the rate that the code's label shows.
 ///
 /// The texts of the fields are the panel's only state. An amount whose text is no number fails with "type mismatch"
-/// when it is read, and one out of range with "overflow", naming the field.
+/// when it is read or written, and one out of range with "overflow", naming the field.
 class ctlINS_IVA final : public Panel {
  public:
   explicit ctlINS_IVA(const PanelSite& site);
 
-  /// Freezes the panel. The values stay visible and readable.
+  /// Freezes the panel. The values stay visible and readable. The field that had the focus is left first, and fails as
+  /// it does under the operator's hand: leaving a VAT fails with "type mismatch" without a rate, with "division by
+  /// zero" at a rate of 0. The panel is frozen all the same.
   void Disattiva();
   /// Lets the operator type: enables the fields and puts the focus on the code. Never fails.
   void Attiva();
@@ -29,6 +31,7 @@ class ctlINS_IVA final : public Panel {
   EventsReference Events() const;
 
   /// The VAT code, TIPI_IVA.COD_IVA. Another text is looked up, as it is: one that is no number fails with "database".
+  /// An empty one becomes "0", with no description and no rate.
   std::string COD_IVA() const;
   void COD_IVA(std::string_view code);
 

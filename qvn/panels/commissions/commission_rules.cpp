@@ -51,14 +51,10 @@ toolkit::TextBox& boxOf(const toolkit::Surface& surface, std::string_view proper
   return surface.textBox(std::string("Txt").append(property));
 }
 
-/// Works out what a widget is to show; a failure names it.
-template <class Work>
-auto workedOutFor(const toolkit::Widget& widget, Work&& work) {
-  try {
-    return work();
-  } catch (const Failure& failure) {
-    throw failure.within(widget.Name());
-  }
+/// A figure worked out in double. Fails with "overflow" beyond the currency type, though it could be shown.
+FormattedText amountOf(double figure, const Locale& locale) {
+  static_cast<void>(toCurrency(figure));
+  return format(figure, Pattern::Currency, locale);
 }
 
 /// Adds the party's amounts one by one, so that a sum of several parties fails only where it itself leaves the range.
@@ -77,16 +73,17 @@ Cell::Cell(toolkit::Surface& surface, const CellTraits& traits)
       office(traits.office.empty() ? nullptr : &surface.textBox(traits.office)) {}
 
 Currency Cell::amount() const { return currencyOf(amountBox); }
-void Cell::amount(Currency value) const { fields::showAmount(amountBox, value); }
+void Cell::amount(Currency value) { fields::showAmount(amountBox, value); }
 
 Variant Cell::percent() const { return fields::decimalOf(percentBox); }
 
-void Cell::percent(const Variant& value) const {
+void Cell::percent(const Variant& value) {
   const Variant shown = fields::decimalOf(percentBox);
   // Nothing differs from a Null.
   if (isNull(value) || compare(shown, value) == std::partial_ordering::equivalent) return;
-  percentBox.Text(workedOutFor(
-      percentBox, [&] { return formatValue(value, Pattern::TwoDecimals, percentBox.owner().platform().locale()); }));
+  percentBox.Text(placed(percentBox.Name(), [&] {
+    return formatValue(value, Pattern::TwoDecimals, percentBox.owner().platform().locale());
+  }));
 }
 
 Party::Party(toolkit::Surface& surface, const PartyTraits& traits)
@@ -110,14 +107,14 @@ Rules::Rules(toolkit::Surface& surface)
       PROVV_PASSIVE(surface.label("PROVV_PASSIVE")),
       RIT_ACCONTO(surface.label("RIT_ACCONTO")),
       surface_(surface) {
-  for (const Party* party : parties()) wire(*party);
+  for (Party* party : parties()) wireParty(*party);
   LblQUOTA.Change = [this] { applyQuota(); };
   PROVV_ATTIVE.Change = [this] { fields::announce(PROVV_ATTIVE, "P_ATTIVE"); };
   PROVV_PASSIVE.Change = [this] { fields::announce(PROVV_PASSIVE, "P_PASSIVE"); };
 }
 
-void Rules::wire(const Party& party) {
-  for (const Cell& cell : party.cells) wire(party, cell);
+void Rules::wireParty(Party& party) {
+  for (Cell& cell : party.cells) wireCell(party, cell);
   if (party.base == nullptr) return;
   toolkit::ComboBox& list = *party.base;
   list.Click = [&party] { fields::announce(*party.base, party.its.baseNotice); };
@@ -129,14 +126,14 @@ void Rules::wire(const Party& party) {
   };
 }
 
-void Rules::wire(const Party& party, const Cell& cell) {
-  wire(cell.percentBox, Pattern::TwoDecimals);
+void Rules::wireCell(Party& party, Cell& cell) {
+  wireBox(cell.percentBox, Pattern::TwoDecimals);
   cell.percentBox.Change = [this, &party, &cell] { percentChanged(party, cell); };
-  wire(cell.amountBox, Pattern::Currency);
+  wireBox(cell.amountBox, Pattern::Currency);
   cell.amountBox.Change = [this, &cell] { amountChanged(cell); };
 }
 
-void Rules::wire(toolkit::TextBox& box, Pattern atRest) {
+void Rules::wireBox(toolkit::TextBox& box, Pattern atRest) {
   box.GotFocus = [&box] {
     fields::rewrite(box, Pattern::TwoDecimals);
     Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kFocused);
@@ -150,7 +147,7 @@ void Rules::wire(toolkit::TextBox& box, Pattern atRest) {
   };
 }
 
-void Rules::percentChanged(const Party& party, const Cell& cell) {
+void Rules::percentChanged(const Party& party, Cell& cell) {
   fields::announce(cell.percentBox, cell.its.percent);
   if (cell.percentBox.Text().empty()) {
     cell.percentBox.Text(format(0, cell.its.emptyPercent, locale()));
@@ -159,7 +156,7 @@ void Rules::percentChanged(const Party& party, const Cell& cell) {
   followPercent(party, cell);
 }
 
-void Rules::amountChanged(const Cell& cell) {
+void Rules::amountChanged(Cell& cell) {
   fields::announce(cell.amountBox, cell.its.amount);
   if (cell.amountBox.Text().empty()) {
     cell.amountBox.Text(format(0, Pattern::TwoDecimals, locale()));
@@ -168,32 +165,31 @@ void Rules::amountChanged(const Cell& cell) {
   if (cell.its.amountRunsTOTALI) TOTALI();
 }
 
-void Rules::followPercent(const Party& party, const Cell& cell) {
+void Rules::followPercent(const Party& party, Cell& cell) {
   if (cell.percentBox.Text().empty() || !party.frame.Enabled()) return;
-  cell.amountBox.Text(workedOutFor(cell.amountBox, [&] {
+  cell.amountBox.Text(placed(cell.amountBox.Name(), [&] {
     const double base = toDouble(party.onPremium() ? currencyOf(cell.premium) : currencyOf(*cell.office));
     const double percent = toDouble(currencyOf(cell.percentBox));
-    return format(base / 100.0 * percent, Pattern::Currency, locale());
+    return amountOf(base / 100.0 * percent, locale());
   }));
 }
 
-void Rules::recompute(const Party& party) {
-  for (const Cell& cell : party.cells) followPercent(party, cell);
+void Rules::recompute(Party& party) {
+  for (Cell& cell : party.cells) followPercent(party, cell);
   if (party.its.recomputingEndsInTOTALI) TOTALI();
 }
 
 void Rules::applyQuota() {
   const bool lead = DELEGATARIA;
   for (const Premium& premium : premiums) {
-    premium.shown.Caption(workedOutFor(premium.shown, [&] {
+    premium.shown.Caption(placed(premium.shown.Name(), [&] {
       const double quota = toDouble(currencyOf(LblQUOTA));
       const double share = toDouble(premium.TOT) / 1000.0 * quota;
-      return lead ? format(toCurrency(share) + premium.DEL, Pattern::Currency, locale())
-                  : format(share, Pattern::Currency, locale());
+      return lead ? format(toCurrency(share) + premium.DEL, Pattern::Currency, locale()) : amountOf(share, locale());
     }));
   }
-  for (const Party* party : parties()) {
-    for (const Cell& cell : party->cells) {
+  for (Party* party : parties()) {
+    for (Cell& cell : party->cells) {
       if (leadingNumber(cell.percentBox.Text()) != 0) percentChanged(*party, cell);
     }
   }
@@ -201,26 +197,23 @@ void Rules::applyQuota() {
 
 void Rules::TOTALI() {
   applyQuota();
-  PROVV_ATTIVE.Caption(workedOutFor(PROVV_ATTIVE, [&] { return format(sumOf(UFF), Pattern::Currency, locale()); }));
+  PROVV_ATTIVE.Caption(placed(PROVV_ATTIVE.Name(), [&] { return format(sumOf(UFF), Pattern::Currency, locale()); }));
   PROVV_PASSIVE.Caption(
-      workedOutFor(PROVV_PASSIVE, [&] { return format(sumOf(PROD_ALT, sumOf(PROD)), Pattern::Currency, locale()); }));
-  RIT_ACCONTO.Caption(workedOutFor(RIT_ACCONTO, [&] {
+      placed(PROVV_PASSIVE.Name(), [&] { return format(sumOf(PROD_ALT, sumOf(PROD)), Pattern::Currency, locale()); }));
+  RIT_ACCONTO.Caption(placed(RIT_ACCONTO.Name(), [&] {
     const Currency rate = QVN_Ricerche::CercaR_ACC(PRODUTTORE.code);
     const Currency alternateRate = QVN_Ricerche::CercaR_ACC(PRODUTTORE_ALT.code);
     const double alternate = toDouble(sumOf(PROD_ALT));
     const double producer = toDouble(sumOf(PROD));
     const double withheld = alternate / 100.0 * toDouble(alternateRate) + producer / 100.0 * toDouble(rate);
-    return format(withheld, Pattern::Currency, locale());
+    return amountOf(withheld, locale());
   }));
 }
 
 void Rules::VALORI(const CurrencyArray& Importi) {
   const auto received = [&](std::size_t i, std::size_t j) {
-    try {
-      return toCurrency(format(Importi.at(i, j), Pattern::Currency, locale()), locale());
-    } catch (const Failure& failure) {
-      throw failure.within("Importi");
-    }
+    const Currency& figure = placed("Importi", [&]() -> const Currency& { return Importi.at(i, j); });
+    return toCurrency(format(figure, Pattern::Currency, locale()), locale());
   };
   for (std::size_t i = 0; i < premiums.size(); ++i) premiums[i].TOT = received(i, 0);
   for (std::size_t i = 0; i < premiums.size(); ++i) premiums[i].DEL = received(i, 1);
@@ -232,13 +225,19 @@ void Rules::percAlt() {
   const std::string shown = caption.Caption();
   const std::size_t bracket = shown.find('(');
   const double share = leadingNumber(std::string_view(shown).substr(bracket == std::string::npos ? 0 : bracket + 1));
-  const std::int16_t percent = workedOutFor(caption, [&] { return toInt16(share); });
+  const std::int16_t percent = placed(caption.Name(), [&] { return toInt16(share); });
   for (const Component component : {PN, ACC, AQ}) {
-    const Cell& alternate = PROD_ALT[component];
-    alternate.percentBox.Text(workedOutFor(alternate.percentBox, [&] {
+    Cell& alternate = PROD_ALT[component];
+    alternate.percentBox.Text(placed(alternate.percentBox.Name(), [&] {
       return format(fields::doubleOf(PROD[component].percentBox) / 100.0 * percent, Pattern::TwoDecimals, locale());
     }));
   }
+}
+
+void Rules::quota(std::int16_t thousandths) {
+  if (QUOTA == thousandths) return;
+  QUOTA = thousandths;
+  LblQUOTA.Caption(std::to_string(thousandths));
 }
 
 void Rules::company(std::string_view code) {
@@ -264,8 +263,8 @@ void Rules::producer(Producer& producer, std::string_view code) {
 
 void Rules::fill() {
   const auto zero = format(0, Pattern::TwoDecimals, locale());
-  for (const Party* party : parties()) {
-    for (const Cell& cell : party->cells) {
+  for (Party* party : parties()) {
+    for (Cell& cell : party->cells) {
       cell.percentBox.Text(zero);
       cell.amountBox.Text(zero);
     }

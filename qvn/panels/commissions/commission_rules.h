@@ -40,29 +40,31 @@ class Cell {
 
   /// The properties' side of the boxes: a value is written only where the box shows another.
   Currency amount() const;
-  void amount(Currency value) const;
+  void amount(Currency value);
   Variant percent() const;
-  void percent(const Variant& value) const;
+  void percent(const Variant& value);
 };
 
 /// Who shares in a commission.
 struct PartyTraits {
   std::string_view frame;
-  std::string_view base;                ///< the list of what its percents are of; empty for the office
-  std::string_view baseNotice;          ///< what a click on the list announces
-  bool recomputingEndsInTOTALI = true;  ///< of recomputing all its amounts
+  std::string_view base;         ///< the list of what its percents are of; empty for the office
+  std::string_view baseNotice;   ///< what a click on the list announces
+  bool recomputingEndsInTOTALI;  ///< of recomputing all its amounts, which nothing asks for of the office
   std::array<CellTraits, 3> cells;
 };
 
 struct Party {
   Party(toolkit::Surface& surface, const PartyTraits& its);
+  Party(const Party&) = delete;
+  Party& operator=(const Party&) = delete;
 
   const PartyTraits& its;
   toolkit::Frame& frame;
   toolkit::ComboBox* base;  ///< null for the office, whose percents are always of the premium
   std::array<Cell, 3> cells;
 
-  const Cell& operator[](Component component) const { return cells[component]; }
+  Cell& operator[](Component component) { return cells[component]; }
   /// Whether its percents are of the premiums, and not of the office's amounts.
   bool onPremium() const;
 };
@@ -88,12 +90,14 @@ class Rules {
  public:
   /// Wires the widgets.
   explicit Rules(toolkit::Surface& surface);
+  Rules(const Rules&) = delete;
+  Rules& operator=(const Rules&) = delete;
 
   Party UFF;
   Party PROD;
   Party PROD_ALT;
   /// All three, in the order in which they are worked out: a producer's base may be an amount of the office.
-  std::array<const Party*, 3> parties() const { return {&UFF, &PROD, &PROD_ALT}; }
+  std::array<Party*, 3> parties() { return {&UFF, &PROD, &PROD_ALT}; }
 
   // Stored, each with what shows it.
   Producer PRODUTTORE;
@@ -111,23 +115,24 @@ class Rules {
 
   /// Gives the boxes of a new panel their first texts.
   void fill();
-  /// The participant's premiums from the quota, then again all amounts whose percent has a whole part.
+  /// The participant's premiums from the quota, then again all amounts whose percent begins with another number than 0.
   void applyQuota();
   void TOTALI();
   void VALORI(const CurrencyArray& Importi);
   void percAlt();
-  /// The company or producer of a code; the code that stands already is not looked up again.
+  /// What stands already is neither applied nor looked up again.
+  void quota(std::int16_t thousandths);
   void company(std::string_view code);
   void producer(Producer& producer, std::string_view code);
 
  private:
-  void wire(const Party& party);
-  void wire(const Party& party, const Cell& cell);
-  void wire(toolkit::TextBox& box, Pattern atRest);
-  void percentChanged(const Party& party, const Cell& cell);
-  void amountChanged(const Cell& cell);
-  void followPercent(const Party& party, const Cell& cell);
-  void recompute(const Party& party);
+  void wireParty(Party& party);
+  void wireCell(Party& party, Cell& cell);
+  void wireBox(toolkit::TextBox& box, Pattern atRest);
+  void percentChanged(const Party& party, Cell& cell);
+  void amountChanged(Cell& cell);
+  void followPercent(const Party& party, Cell& cell);
+  void recompute(Party& party);
   const Locale& locale() const;
 
   toolkit::Surface& surface_;

@@ -18,11 +18,8 @@ using Hold = toolkit::Surface::Hold;
 namespace {
 
 std::uint8_t baseOf(const toolkit::ComboBox& list) {
-  try {
-    return toByte(std::string("0").append(list.Text(), 0, 1), list.owner().platform().locale());
-  } catch (const Failure& failure) {
-    throw failure.within(list.Name());
-  }
+  const std::string text = std::string("0").append(list.Text(), 0, 1);
+  return placed(list.Name(), [&] { return toByte(text, list.owner().platform().locale()); });
 }
 
 void chooseBase(toolkit::ComboBox& list, std::uint8_t base) {
@@ -103,9 +100,8 @@ void ctlPROV_POLIZZE::CALC_PROD_ALT(std::uint8_t base) { chooseBase(*rules_.PROD
 
 std::int16_t ctlPROV_POLIZZE::QUOTA() const { return rules_.QUOTA; }
 void ctlPROV_POLIZZE::QUOTA(std::int16_t thousandths) {
-  if (rules_.QUOTA == thousandths) return;
-  rules_.QUOTA = thousandths;
-  rules_.LblQUOTA.Caption(std::to_string(thousandths));
+  const Hold hold(*surface_);
+  rules_.quota(thousandths);
 }
 
 std::string ctlPROV_POLIZZE::COD_COMPAGNIA() const { return rules_.COD_COMPAGNIA; }
@@ -138,7 +134,7 @@ void ctlPROV_POLIZZE::Attiva() {
 void ctlPROV_POLIZZE::Disattiva() {
   const Hold hold(*surface_);
   const auto parties = rules_.parties();
-  for (const commissions::Party* party : parties) party->frame.Enabled(false);
+  for (commissions::Party* party : parties) party->frame.Enabled(false);
 }
 
 std::string ctlPROV_POLIZZE::COD_PRODUTTORE_ALT() const { return rules_.PRODUTTORE_ALT.code; }

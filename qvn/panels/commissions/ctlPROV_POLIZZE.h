@@ -24,16 +24,17 @@ class Rules;
 /// party is enabled. Amounts are columns of QUOTE_POLIZZE in either of its two families; the panel holds one set.
 ///
 /// The texts of the boxes are the model. A box whose text is no number fails with "type mismatch", and a figure beyond
-/// the currency type with "overflow", in whatever reads it, naming the box; what was written before stays. Writing an
-/// amount or percent that is already shown does nothing; any other write runs the rules of the box, as typing does.
+/// the currency type with "overflow", in whatever reads it or works it out, naming the box or label; what was written
+/// before stays. Writing a number that is already shown does nothing; any other write runs the rules of the box, as
+/// typing does.
 class ctlPROV_POLIZZE final : public Panel {
  public:
   /// Asks for the database if it is closed, as it already works out its first summary.
   explicit ctlPROV_POLIZZE(const PanelSite& site);
   ~ctlPROV_POLIZZE() override;
 
-  /// Amounts are shown under "Currency", percents under "0.00". A percent is read as a decimal; any value may be
-  /// written, and a Null leaves it.
+  /// Amounts are shown under "Currency", percents under "0.00". A percent is read as a decimal; any value but an array
+  /// may be written. A Null leaves it, and a text is written even where it says the number that is shown.
   Currency AQ_UFF() const;
   void AQ_UFF(Currency amount);
   Variant P_AQ_UFF() const;
