@@ -116,8 +116,8 @@ class Operator {
   virtual std::vector<FormPicture> shown() = 0;
 };
 
-/// Hears what happens on a platform, for a journal or a test. All calls but viewerRuns() come after the thing has
-/// happened.
+/// Hears what happens on a platform, for a journal or a test. All calls come after the thing has happened, except where
+/// they say otherwise.
 class Watcher {
  public:
   virtual ~Watcher() = default;
@@ -127,7 +127,9 @@ class Watcher {
   virtual void beeped() = 0;
 
   /// What happens to a form, by its name: it was loaded, its Load yet to run; it stands modally on the screen; it was
-  /// hidden; it was unloaded, its Unload having run. One that is unloaded while it is shown is not told hidden.
+  /// hidden; it was unloaded, its Unload having run. One that is unloaded while it is shown is not told hidden. The
+  /// last two are told of a form that was shown before the focus has left it for its holder from before, and so ahead
+  /// of the lostFocus() of one that can no longer hold it.
   virtual void formLoaded(std::string_view /*form*/) {}
   virtual void formShown(std::string_view /*form*/) {}
   virtual void formHidden(std::string_view /*form*/) {}

@@ -20,6 +20,7 @@ namespace qvn::test {
 struct FakeAnswer {
   std::vector<std::string> columns;
   std::vector<std::vector<Variant>> rows;
+  std::size_t failingRow = 0;  ///< the number of the row that cannot be read, from 1
 };
 
 struct Ran {
@@ -68,6 +69,7 @@ class FakeDriver final : public toolkit::Driver {
     bool atEnd() const override { return row_ >= answer_.rows.size(); }
     void next() override { ++row_; }
     Variant value(std::string_view column) const override {
+      if (row_ + 1 == answer_.failingRow) throw Failure(FailureKind::Database, "the row cannot be read");
       for (std::size_t i = 0; i < answer_.columns.size(); ++i) {
         if (sameName(answer_.columns[i], column)) return answer_.rows.at(row_).at(i);
       }

@@ -1,6 +1,7 @@
 #include "platforms/memory/data_control.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "platforms/memory/platform.h"
 #include "platforms/memory/usable.h"
@@ -15,37 +16,30 @@ DataControl::DataControl(const Making& making)
 }
 
 void DataControl::Refresh() {
-  fields_.clear();
-  values_.clear();
-  rowCount_ = 0;
+  answer_ = {};
   connection_.Close();
-  try {
-    run();
-  } catch (const Failure& failure) {
-    fields_.clear();
-    values_.clear();
-    rowCount_ = 0;
-    throw failure.within(fullName(*this));
-  }
+  answer_ = placed(fullName(*this), [this] { return ask(); });
 }
 
-void DataControl::run() {
+DataControl::Answer DataControl::ask() {
   connection_.Open(connectionString_);
   if (Watcher* watcher = surface().watcher()) watcher->viewerRuns(surface().name(), recordSource_);
   const auto rows =
       connection_.run({.sql = recordSource_, .cursorType = toolkit::adOpenStatic, .lockType = toolkit::adLockReadOnly});
-  fields_.assign(rows->columns().begin(), rows->columns().end());
+  Answer answer{.fields = {rows->columns().begin(), rows->columns().end()}};
   for (; !rows->atEnd(); rows->next()) {
-    for (const std::string& field : fields_) values_.push_back(rows->value(field));
-    ++rowCount_;
+    for (const std::string& field : answer.fields) answer.values.push_back(rows->value(field));
+    ++answer.rowCount;
   }
+  return answer;
 }
 
 const Variant* DataControl::value(std::int32_t row, std::string_view field) const {
-  const auto found = std::ranges::find_if(fields_, [&](const std::string& name) { return sameName(name, field); });
-  if (found == fields_.end()) return nullptr;
-  const auto column = static_cast<std::size_t>(found - fields_.begin());
-  return &values_[static_cast<std::size_t>(row) * fields_.size() + column];
+  const auto& fields = answer_.fields;
+  const auto found = std::ranges::find_if(fields, [&](const std::string& name) { return sameName(name, field); });
+  if (found == fields.end()) return nullptr;
+  const auto column = static_cast<std::size_t>(found - fields.begin());
+  return &answer_.values[static_cast<std::size_t>(row) * fields.size() + column];
 }
 
 }  // namespace qvn::memory

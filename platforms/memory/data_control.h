@@ -20,19 +20,24 @@ class DataControl final : public Common<toolkit::DataControl> {
   void RecordSource(std::string_view sql) override { recordSource_ = sql; }
   void Refresh() override;
 
-  std::int32_t rowCount() const { return rowCount_; }
-  /// A value of a row that is there, by the name of its column; null if the answer has no such column.
+  std::int32_t rowCount() const { return answer_.rowCount; }
+  /// A value of a row that is there, by the name of its column, the first of two with one name; null if the answer has
+  /// no such column.
   const Variant* value(std::int32_t row, std::string_view field) const;
 
  private:
-  void run();
+  struct Answer {
+    std::vector<std::string> fields = {};
+    std::vector<Variant> values = {};  // row after row
+    std::int32_t rowCount = 0;
+  };
+
+  Answer ask();
 
   toolkit::Connection connection_;
   std::string connectionString_;
   std::string recordSource_;
-  std::vector<std::string> fields_;
-  std::vector<Variant> values_;  // row after row
-  std::int32_t rowCount_ = 0;
+  Answer answer_;
 };
 
 }  // namespace qvn::memory

@@ -5,6 +5,7 @@
 #include "platforms/memory/platform.h"
 #include "platforms/memory/usable.h"
 #include "platforms/memory/utf8.h"
+#include "qvn/shared/database_numbers.h"
 #include "qvn/shared/failure.h"
 #include "qvn/shared/patterns.h"
 
@@ -25,6 +26,8 @@ DataControl& sourceOf(const Making& making) {
                                               .append(making.layout.dataSource)
                                               .append("\" above it"));
 }
+
+bool isOfNumbers(Pattern pattern) { return pattern == Pattern::Currency || pattern == Pattern::TwoDecimals; }
 
 }  // namespace
 
@@ -63,10 +66,12 @@ std::string DataGrid::text(std::int32_t row, std::int32_t column) const {
   requirePlace(*this, "rows", rowCount(), row);
   const Variant* value = source_.value(row, shown.dataField);
   if (value == nullptr) return {};
+  const Pattern pattern = patternNamed(shown.numberFormat);
+  const Locale& locale = surface().platform().locale();
   try {
-    return formatValue(*value, patternNamed(shown.numberFormat), surface().platform().locale());
+    return isOfNumbers(pattern) ? formatStored(*value, pattern, locale) : formatValue(*value, pattern, locale);
   } catch (const Failure&) {
-    return {};  // infinite, and so without digits
+    return {};  // infinite, and so without digits, or kept as a text of too many
   }
 }
 

@@ -159,7 +159,7 @@ void Form::showModal() {
   surface.Visible(true);
   try {
     if (Watcher* watcher = platform_.watcher()) watcher->formShown(Name());
-    platform_.hands().attend(*this, surface, showing.over);
+    platform_.hands().attend(*this, surface, showing);
   } catch (...) {
     if (!showing.over) hide();
     throw;

@@ -15,6 +15,11 @@ namespace qvn::memory {
 
 class Platform;
 
+/// One modal showing of a form, for as long as its call runs.
+struct Showing {
+  bool over = false;
+};
+
 /// A window that stands only for the operator's hands. While it is shown, what was laid down for it is done; then its
 /// frame closes it.
 class Form final : public toolkit::Form, public Turns::Lasting {
@@ -40,11 +45,6 @@ class Form final : public toolkit::Form, public Turns::Lasting {
   toolkit::Surface& surface() const override { return standing(); }
 
  private:
-  /// One modal showing, for as long as its call runs.
-  struct Showing {
-    bool over = false;
-  };
-
   void destroy() noexcept override;
   Surface& standing() const;
   [[noreturn]] void refuse(std::string_view why) const;

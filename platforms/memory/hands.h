@@ -20,6 +20,7 @@ class Platform;
 class Surface;
 class TextBox;
 class TextBuffer;
+struct Showing;
 
 class Hands final : public Operator {
  public:
@@ -41,7 +42,7 @@ class Hands final : public Operator {
 
   /// Does at a form that has just come to stand what was laid down for it, until the showing is over or nothing is left
   /// but to close it by its frame.
-  void attend(const toolkit::Form& form, Surface& surface, const bool& over);
+  void attend(const toolkit::Form& form, Surface& surface, const Showing& showing);
 
  private:
   void act(const toolkit::Form& form, Surface& surface, const Act& act);

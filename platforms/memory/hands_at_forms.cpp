@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "platforms/memory/by_hand.h"
+#include "platforms/memory/form.h"
 #include "platforms/memory/hands.h"
 #include "platforms/memory/list_view.h"
 #include "platforms/memory/platform.h"
@@ -52,10 +53,10 @@ toolkit::Widget* firstStop(const Surface& form) {
 
 }  // namespace
 
-void Hands::attend(const toolkit::Form& form, Surface& surface, const bool& over) {
+void Hands::attend(const toolkit::Form& form, Surface& surface, const Showing& showing) {
   std::vector<Act> acts = laidDown_.next(surface.name());
   if (toolkit::Widget* first = firstStop(surface)) platform_.focus().giveByHand(*first);
-  if (over) return;
+  if (showing.over) return;
   laidDown_.look(form);
   for (Act& next : acts) {
     if (next.kind == Act::Kind::Close) return;
@@ -65,7 +66,7 @@ void Hands::attend(const toolkit::Form& form, Surface& surface, const bool& over
       laidDown_.fail({.form = std::string(surface.name()), .act = std::move(next), .failure = failure});
       return;
     }
-    if (over) return;
+    if (showing.over) return;
   }
 }
 

@@ -22,6 +22,7 @@ class Lista {
   void selectFirst();
 
   /// As SharedForm does.
+  void requireNotShown() const { form_.requireNotShown(); }
   void load() { form_.load(); }
   void show() { form_.show(); }
 

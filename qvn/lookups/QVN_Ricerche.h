@@ -56,12 +56,13 @@ std::string CercaSIGLA(std::string& COD_SRAMO);
 
 // The pick lists. Each shows, modally on the form Lista, the rows that its code or else its description narrows, and
 // gives the code of the row that the operator confirms, without blanks around it: the empty text if the list was
-// closed, or if no row was found and there was nothing to show. All arguments come back without their quotes.
+// closed, if no row was selected, or if none was found and there was nothing to show. All arguments come back without
+// their quotes.
 //
 // A row is a description and a code. A code narrows to the codes that begin with it, behind "!" to the descriptions
 // that do; an empty one leaves the description to narrow, and where both are empty all rows stand in the list. A query
 // that fails, or a Null in a column, passes on with the forms left loaded, over which the next list loads. A list that
-// is opened while another is shown fails with "invalid call", and leaves that one as it is.
+// is asked for while another is shown fails with "invalid call" before its query runs, and leaves that one as it is.
 
 /// SOTTORAMI.COD_SRAMO. The code is a number, matched whole; one that is no number counts as empty. Of the third
 /// argument the quotes go, and nothing else comes of it.

@@ -1,5 +1,6 @@
 // The pick lists: one table, and one way through it.
 #include <array>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -20,6 +21,7 @@ namespace qvn::QVN_Ricerche {
 namespace {
 
 using lookups::fireMancaDB;
+using lookups::joined;
 using lookups::Lista;
 using lookups::Query;
 using lookups::removeQuotes;
@@ -31,8 +33,9 @@ struct Column {
   std::string_view field;
 };
 
-/// The statement for a code and a description without quotes; empty where nothing is to be asked.
-using Narrowing = std::string (*)(const PickListTexts&, std::string_view code, std::string_view description);
+/// The statement for a code and a description without quotes, or none where nothing is to be asked.
+using Asked = std::optional<std::string>;
+using Narrowing = Asked (*)(const PickListTexts&, std::string_view code, std::string_view description);
 
 struct PickList {
   std::string_view title;
@@ -41,29 +44,23 @@ struct PickList {
   Narrowing narrowed;
 };
 
-std::string joined(std::initializer_list<std::string_view> pieces) {
-  std::string whole;
-  for (const std::string_view piece : pieces) whole.append(piece);
-  return whole;
-}
-
-std::string byDescription(const PickListTexts& texts, std::string_view description) {
-  if (description.empty()) return std::string(texts.all);
+Asked byDescription(const PickListTexts& texts, std::string_view description) {
+  if (description.empty()) return texts.all.empty() ? std::nullopt : Asked(texts.all);
   return joined({texts.byDescription, description, statements::kLikeEnd});
 }
 
-std::string byText(const PickListTexts& texts, std::string_view code, std::string_view description) {
+Asked byText(const PickListTexts& texts, std::string_view code, std::string_view description) {
   if (code.empty()) return byDescription(texts, description);
   if (code.starts_with('!')) return joined({texts.byDescription, code.substr(1), statements::kLikeEnd});
   return joined({texts.byCode, code, statements::kLikeEnd});
 }
 
-std::string byNumber(const PickListTexts& texts, std::string_view code, std::string_view description) {
+Asked byNumber(const PickListTexts& texts, std::string_view code, std::string_view description) {
   if (!isNumber(code, Globale::platform().locale())) return byDescription(texts, description);
   return joined({texts.byCode, code});
 }
 
-std::string byAccount(const PickListTexts& texts, std::string_view code, std::string_view description) {
+Asked byAccount(const PickListTexts& texts, std::string_view code, std::string_view description) {
   if (code.empty()) return byDescription(texts, description);
   const std::size_t mark = code.find('?');
   if (mark == std::string_view::npos) {
@@ -116,10 +113,9 @@ void fill(toolkit::ListView& list, std::span<const Column> columns, Query& query
 bool ask(const PickList& pickList, Lista& lista, std::string_view code, std::string_view description) {
   const auto wait = Globale::the<lookups::Ricerca>();
   wait->load();
-  const std::string sql = pickList.narrowed(pickList.texts, code, description);
   bool found = false;
-  if (!sql.empty()) {
-    Query query({sql});
+  if (const Asked sql = pickList.narrowed(pickList.texts, code, description)) {
+    Query query({*sql});
     found = query.found();
     if (found) {
       lista.load();
@@ -137,9 +133,11 @@ std::string trimmed(std::string text) {
   return text;
 }
 
-/// The code of the selected row: what stands behind its first column, joined by "?" where it has several parts.
+/// The code of the selected row: what stands behind its first column, joined by "?" where it has several parts. Empty
+/// if no row is selected, which a host can bring about.
 std::string selectedCode(const toolkit::ListView& list) {
   std::string code;
+  if (list.selected() < 0) return code;
   for (std::int32_t column = 1; column < list.columnCount(); ++column) {
     if (column > 1) code.append("?");
     code.append(trimmed(list.text(list.selected(), column)));
@@ -149,6 +147,7 @@ std::string selectedCode(const toolkit::ListView& list) {
 
 std::string choose(const PickList& pickList, std::string_view code, std::string_view description) {
   const auto lista = Globale::the<Lista>();
+  lista->requireNotShown();
   if (!ask(pickList, *lista, code, description)) return {};
   lista->selectFirst();
   lista->show();

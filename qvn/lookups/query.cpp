@@ -5,6 +5,7 @@
 #include "qvn/fields/Gest_SCHEDE.h"
 #include "qvn/shared/Globale.h"
 #include "qvn/shared/conversions.h"
+#include "qvn/shared/database_numbers.h"
 #include "qvn/shared/failure.h"
 #include "qvn/shared/patterns.h"
 #include "qvn/shared/statements.h"
@@ -13,35 +14,25 @@ namespace qvn::lookups {
 
 namespace {
 
-/// How a database writes a number that it keeps as text: a point, no grouping, no symbol.
-constexpr Locale kDatabaseForm{.decimalSign = '.', .groupingSign = '\0', .symbol = ""};
-constexpr std::string_view kDatabaseCharacters = "0123456789.+-eE";
-
 const Locale& officeForm() { return Globale::platform().locale(); }
 
-bool isInDatabaseForm(const Variant& value) {
-  const auto* text = std::get_if<std::string>(&value);
-  return text != nullptr && text->find_first_not_of(kDatabaseCharacters) == std::string::npos &&
-         isNumber(*text, kDatabaseForm);
-}
+}  // namespace
 
-std::string concatenation(std::initializer_list<std::string_view> pieces) {
+std::string joined(std::initializer_list<std::string_view> pieces) {
   std::size_t size = 0;
-  for (std::string_view piece : pieces) size += piece.size();
+  for (const std::string_view piece : pieces) size += piece.size();
   std::string whole;
   whole.reserve(size);
-  for (std::string_view piece : pieces) whole.append(piece);
+  for (const std::string_view piece : pieces) whole.append(piece);
   return whole;
 }
-
-}  // namespace
 
 void fireMancaDB() { Globale::Eventi()->FireMancaDB(); }
 
 void removeQuotes(std::string& key) { Gest_SCHEDE::TestoSostituisci(key, statements::kQuote, {}); }
 
 Query::Query(std::initializer_list<std::string_view> pieces, Cursor cursor) {
-  rows_.Open(concatenation(pieces), Globale::DB(), cursor.type, cursor.lock, toolkit::adOptionUnspecified);
+  rows_.Open(joined(pieces), Globale::DB(), cursor.type, cursor.lock, toolkit::adOptionUnspecified);
 }
 
 template <class Convert>
@@ -63,10 +54,7 @@ template Currency Query::as<Currency>(std::string_view column) const;
 template std::int16_t Query::as<std::int16_t>(std::string_view column) const;
 
 std::string Query::generalText(std::string_view column) const {
-  return converted(column, [](const Variant& stored) {
-    if (!isInDatabaseForm(stored)) return formatValue(stored, Pattern::General, officeForm());
-    return format(qvn::as<Decimal>(stored, kDatabaseForm), Pattern::General, officeForm()).str();
-  });
+  return converted(column, [](const Variant& stored) { return formatStored(stored, Pattern::General, officeForm()); });
 }
 
 }  // namespace qvn::lookups

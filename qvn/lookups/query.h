@@ -17,6 +17,9 @@ void fireMancaDB();
 /// Takes the quotes out of a text key, for the caller as well.
 void removeQuotes(std::string& key);
 
+/// The pieces of a statement or of a message, one behind the other.
+std::string joined(std::initializer_list<std::string_view> pieces);
+
 /// How the result set is opened.
 struct Cursor {
   std::int32_t type = toolkit::adOpenDynamic;

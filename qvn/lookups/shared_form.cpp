@@ -12,16 +12,18 @@ namespace qvn::lookups {
 
 namespace {
 
-/// Set while it lives.
-class Raised {
+/// Another value for as long as it lives, and then the former one again: a showing within a showing may be refused.
+template <class Value>
+class Meanwhile {
  public:
-  explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Raised() { flag_ = false; }
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
+  Meanwhile(Value& place, Value value) : place_(place), former_(std::exchange(place, value)) {}
+  ~Meanwhile() { place_ = former_; }
+  Meanwhile(const Meanwhile&) = delete;
+  Meanwhile& operator=(const Meanwhile&) = delete;
 
  private:
-  bool& flag_;
+  Value& place_;
+  Value former_;
 };
 
 }  // namespace
@@ -33,26 +35,32 @@ SharedForm::~SharedForm() {
   fields::skipFailing([&] { form_->unload(); });
 }
 
+void SharedForm::requireNotShown() const {
+  if (failureOfShowing_ == nullptr) return;
+  throw Failure(FailureKind::InvalidCall, std::string(form_->Name()).append(": it is shown already"));
+}
+
 void SharedForm::load() {
-  if (shown_) throw Failure(FailureKind::InvalidCall, std::string(form_->Name()).append(": it is shown already"));
+  requireNotShown();
   form_->load();
 }
 
 void SharedForm::show() {
+  std::optional<Failure> failure;
   {
-    const Raised shown(shown_);
+    const Meanwhile showing(failureOfShowing_, &failure);
     form_->showModal();
   }
-  if (const auto failure = std::exchange(failure_, {})) {
-    form_->unload();
-    throw Failure(*failure);
-  }
+  if (!failure) return;
+  fields::skipFailing([&] { form_->unload(); });
+  throw Failure(*failure);
 }
 
 void SharedForm::handlerFailed(toolkit::Surface& panel, toolkit::Widget& widget, std::string_view event,
                                const Failure& failure) noexcept {
-  if (failure_) return;
-  failure_ = failure.within(std::string(panel.name()).append(".").append(widget.Name()).append(" ").append(event));
+  if (failureOfShowing_ == nullptr || *failureOfShowing_) return;
+  *failureOfShowing_ =
+      failure.within(std::string(panel.name()).append(".").append(widget.Name()).append(" ").append(event));
 }
 
 }  // namespace qvn::lookups

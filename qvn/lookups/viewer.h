@@ -23,7 +23,7 @@ namespace qvn::lookups {
 ///     viewer->show();
 ///
 /// A failure on the way leaves the form loaded and not shown. All but load() fail with "invalid call" before it.
-class Viewer {
+class Viewer final {
  public:
   explicit Viewer(const toolkit::FormLayout& layout);
 

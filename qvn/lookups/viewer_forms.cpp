@@ -53,19 +53,24 @@ constexpr toolkit::FormLayout kProducers{
     .caption = "Visualizza Produttori",
     .inside = {.name = "FrmVIS_PRODUTTORI", .width = 8310, .height = 4905, .widgets = kProducerWidgets}};
 
-class FrmVIS_COMPAGNIE final : public Viewer {
- public:
-  FrmVIS_COMPAGNIE() : Viewer(kCompanies) {}
+struct FrmVIS_COMPAGNIE {
+  Viewer viewer{kCompanies};
 };
 
-class FrmVIS_PRODUTTORI final : public Viewer {
- public:
-  FrmVIS_PRODUTTORI() : Viewer(kProducers) {}
+struct FrmVIS_PRODUTTORI {
+  Viewer viewer{kProducers};
 };
+
+/// The viewer of the one form of its kind, which it keeps.
+template <class Form>
+std::shared_ptr<Viewer> viewerOf() {
+  const std::shared_ptr<Form> form = Globale::the<Form>();
+  return {form, &form->viewer};
+}
 
 }  // namespace
 
-std::shared_ptr<Viewer> companiesViewer() { return Globale::the<FrmVIS_COMPAGNIE>(); }
-std::shared_ptr<Viewer> producersViewer() { return Globale::the<FrmVIS_PRODUTTORI>(); }
+std::shared_ptr<Viewer> companiesViewer() { return viewerOf<FrmVIS_COMPAGNIE>(); }
+std::shared_ptr<Viewer> producersViewer() { return viewerOf<FrmVIS_PRODUTTORI>(); }
 
 }  // namespace qvn::lookups

@@ -36,6 +36,69 @@ class Acts : public ContractForm {
 };
 QVN_ON_EVERY_PLATFORM_AS(Contract, Acts);
 
+/// A field before a list, and two buttons of one place in tab order.
+constexpr std::array<toolkit::WidgetLayout, 4> kGuardWidgets{{
+    {.name = "Rows", .kind = toolkit::WidgetKind::ListView, .tabIndex = 2, .place = {100, 500, 2000, 900}},
+    {.name = "Guard", .tabIndex = 1, .place = {100, 100, 900, 315}},
+    {.name = "Twin", .tabIndex = 1, .place = {1100, 100, 900, 315}},
+    {.name = "Third", .tabIndex = 1, .place = {2100, 100, 900, 315}},
+}};
+constexpr toolkit::FormLayout kGuarded{
+    .caption = "Guardia", .inside = {.name = "Guarded", .width = 3100, .height = 1500, .widgets = kGuardWidgets}};
+
+class ActsAtAGuardedList : public ContractForm {
+ public:
+  void prepare() override {
+    form_ = make(kGuarded);
+    form_->load();
+    list().addColumn("A", 100);
+    list().addRow(std::array<std::string_view, 1>{"a"});
+    list().DblClick = hears("double");
+    list().ColumnClick = [this](std::int16_t) { heard.emplace_back("column"); };
+    list().KeyPress = [this](std::int16_t&) { heard.emplace_back("key"); };
+    form_->Unload = [this] { heard.push_back("selected " + std::to_string(list().selected())); };
+    heard.clear();
+  }
+
+  toolkit::Form& form() { return *form_; }
+  toolkit::ListView& list() { return form_->surface().listView("Rows"); }
+  toolkit::TextBox& guard(std::string_view name = "Guard") { return form_->surface().textBox(name); }
+
+ private:
+  std::unique_ptr<toolkit::Form> form_;
+};
+QVN_ON_EVERY_PLATFORM_AS(Contract, ActsAtAGuardedList);
+
+TEST_P(ActsAtAGuardedList, DoNothingWhereItDoesNotGetTheFocus) {
+  int kept = 0;
+  guard().LostFocus = [&] {
+    ++kept;
+    guard().SetFocus();
+  };
+  hands().layDown("Guarded", {Act::row(0), Act::doubleClick(0), Act::column(1), Act::key("x")});
+  form().showModal();
+  EXPECT_EQ(kept, 3);
+  EXPECT_THAT(heard, ElementsAre("modal Guarded", "selected -1", "unload Guarded"));
+  EXPECT_THAT(hands().failedActs(), IsEmpty());
+}
+
+TEST_P(ActsAtAGuardedList, DoNothingWhereTheRowVanishesOnTheWay) {
+  for (const Act& act : {Act::row(0), Act::doubleClick(0)}) {
+    prepare();
+    guard().LostFocus = [this] { list().clearRows(); };
+    hands().layDown("Guarded", {act, Act::key("x")});
+    form().showModal();
+    EXPECT_THAT(heard, ElementsAre("modal Guarded", "key", "selected -1", "unload Guarded"));
+    EXPECT_THAT(hands().failedActs(), IsEmpty());
+  }
+}
+
+TEST_P(ActsAtAGuardedList, BeginAtTheFirstOfThoseWithTheSameTabIndex) {
+  for (const auto* name : {"Guard", "Twin", "Third"}) guard(name).GotFocus = hears(std::string("got ") + name);
+  form().showModal();
+  EXPECT_THAT(heard, ElementsAre("modal Guarded", "got Guard", "selected -1", "unload Guarded"));
+}
+
 void expectFailure(const FailedAct& failed, FailureKind kind, std::string_view words) {
   EXPECT_EQ(failed.failure.kind(), kind) << failed.failure.what();
   EXPECT_THAT(failed.failure.what(), testing::HasSubstr(std::string(words)));
@@ -133,6 +196,16 @@ TEST_P(Acts, PicturesShowAListAsItStands) {
   EXPECT_EQ(shown[1].caption, "Ordinato");
   EXPECT_THAT(shown[1].cells, ElementsAre("Milano", "2", "ancona", "3"));
   EXPECT_EQ(shown[1].selected, 0);
+}
+
+TEST_P(Acts, TheFirstPictureIsTakenOnceTheFocusIsThere) {
+  ask().load();
+  field().GotFocus = [this] { ask().Caption("Pronta"); };
+  hands().takePictures(true);
+  ask().showModal();
+  const std::vector<FormPicture> shown = hands().shown();
+  ASSERT_EQ(shown.size(), 1U);
+  EXPECT_EQ(shown[0].caption, "Pronta");
 }
 
 TEST_P(Acts, PicturesOfSeveralFormsStandInTurn) {

@@ -110,6 +110,26 @@ TEST_P(Grid, ShowsNothingForWhatCannotBeShown) {
   EXPECT_THAT(row(1), ElementsAre("12,5", "", ""));
 }
 
+TEST_P(Grid, ReadsANumberThatIsKeptAsTextInTheDatabasesOwnForm) {
+  refresh({.columns = {"COD_COMP", "PL", "QUOTA"},
+           .rows = {{std::string("1.234"), std::string("1.234"), std::string("1234.5")},
+                    {std::string("007"), std::string("1.234,50"), std::string("-.5")},
+                    {std::string("1e3"), std::string("1e3"), std::string("n.d.")},
+                    {std::string(""), std::string(40, '9'), std::string("")}}});
+  EXPECT_THAT(row(0), ElementsAre("1.234", "€ 1,23", "1234,50"));
+  EXPECT_THAT(row(1), ElementsAre("007", "€ 1.234,50", "-0,50"));
+  EXPECT_THAT(row(2), ElementsAre("1e3", "€ 1.000,00", "n.d."));
+  EXPECT_THAT(row(3), ElementsAre("", "", ""));
+  grid().column(1, {.caption = "PL", .dataField = "PL", .numberFormat = "yyyy"});
+  EXPECT_EQ(grid().text(0, 1), "1.234");
+}
+
+TEST_P(Grid, ShowsTheFirstOfTwoColumnsOfOneName) {
+  refresh({.columns = {"PL", "COD_COMP", "pl"}, .rows = {{1, std::string("GEN"), 2}, {3, std::string("ALL"), 4}}});
+  EXPECT_THAT(row(0), ElementsAre("GEN", "€ 1,00", ""));
+  EXPECT_THAT(row(1), ElementsAre("ALL", "€ 3,00", ""));
+}
+
 TEST_P(Grid, AColumnWrittenHoldsForTheRowsThatAreThere) {
   refresh(kTwo);
   grid().column(0, {.caption = "Quota", .dataField = "quota", .numberFormat = ""});
@@ -176,6 +196,18 @@ TEST_P(Grid, IsEmptyWhereRefreshFails) {
   EXPECT_FAILURE(data().Refresh(), FailureKind::Database, "nobody:knows");
   data().ConnectionString("");
   EXPECT_FAILURE(data().Refresh(), FailureKind::Database, "Viewer.Data");
+}
+
+TEST_P(Grid, IsEmptyWhereARowCannotBeRead) {
+  refresh(kTwo);
+  FakeAnswer broken = kTwo;
+  broken.failingRow = 2;
+  EXPECT_FAILURE(refresh(broken), FailureKind::Database, "Viewer.Data: the row cannot be read");
+  EXPECT_EQ(grid().rowCount(), 0);
+  EXPECT_FAILURE(grid().text(0, 0), FailureKind::SubscriptOutOfRange, "Viewer.Grid");
+  refresh(kTwo);
+  ASSERT_EQ(grid().rowCount(), 2);
+  EXPECT_THAT(row(0), ElementsAre("GEN", "€ 1.234,56", "600,00"));
 }
 
 TEST_P(Grid, LosesItsRowsWithTheForm) {

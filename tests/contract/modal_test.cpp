@@ -6,6 +6,47 @@ namespace {
 
 QVN_FORM_CONTRACT(ModalForm);
 
+/// Hears with a form's going who has the focus at that moment.
+class WatchedForm : public ContractForm {
+  void formHidden(std::string_view form) override { see("hide " + std::string(form)); }
+  void formUnloaded(std::string_view form) override { see("unload " + std::string(form)); }
+  void see(std::string going) {
+    const bool back = platform().focused() == &box();
+    going.append(loadedForms().empty() ? ", gone" : ", loaded").append(back ? ", focus back" : ", focus away");
+    heard.push_back(std::move(going));
+  }
+};
+QVN_ON_EVERY_PLATFORM_AS(Contract, WatchedForm);
+
+TEST_P(WatchedForm, GoesBeforeTheFocusIsBack) {
+  wirePick();
+  box().SetFocus();
+  for (const auto* button : {"Ok", "Cancel"}) {
+    hands().layDown("Pick", {Act::click(button)});
+    pick().showModal();
+    EXPECT_TRUE(box().hasFocus());
+  }
+  EXPECT_THAT(heard, ElementsAre("got A", "load Pick", "modal Pick", "ok", "hide Pick, loaded, focus away",
+                                 "modal Pick", "cancel", "unload Pick, gone, focus away"));
+}
+
+TEST_P(WatchedForm, GoesBeforeAHolderThatWasSwitchedOffLosesTheFocus) {
+  wirePick();
+  for (const auto* last : {"Ok", "Cancel"}) {
+    box().Enabled(true);
+    box().SetFocus();
+    pick().load();
+    pick().surface().button("Other").Click = [this] { box().Enabled(false); };
+    hands().layDown("Pick", {Act::click("Other"), Act::click(last)});
+    heard.clear();
+    pick().showModal();
+    const bool hidden = std::string_view(last) == "Ok";
+    EXPECT_THAT(heard,
+                ElementsAre("modal Pick", hidden ? "ok" : "cancel",
+                            hidden ? "hide Pick, loaded, focus away" : "unload Pick, gone, focus away", "lost A"));
+  }
+}
+
 TEST_P(ModalForm, ReturnsWhenItHides) {
   wirePick();
   pick().Unload = hears("Unload");

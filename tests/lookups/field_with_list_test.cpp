@@ -75,6 +75,21 @@ TEST_P(FieldWithList, TakesTheCodeThatIsChosenAndSelectsIt) {
   EXPECT_EQ(box().Text(), "X");
 }
 
+TEST_P(FieldWithList, SelectsTheCodeThatStandsThereAlreadyAndWritesNothing) {
+  answer("Select DESC_COMPAGNIA, COD_COMP From COMPAGNIE Where COD_COMP  Like 'AB1%'", {"DESC_COMPAGNIA", "COD_COMP"},
+         {{text("Alfa"), text("AB1")}});
+  fill("AB1");
+  hands().caret(1, 1);
+  atLista({Act::click("CmdOK")});
+  hands().type("?");
+  EXPECT_EQ(hands().shown().size(), 1U);
+  EXPECT_EQ(box().Text(), "AB1");
+  EXPECT_EQ(box().SelStart(), 0);
+  EXPECT_EQ(box().SelLength(), 3);
+  EXPECT_THAT(container().notices, IsEmpty());
+  EXPECT_THAT(container().failures, IsEmpty());
+}
+
 TEST_P(FieldWithList, KeepsItsTextQuotesAndSelectionWhereNothingIsChosen) {
   answerAB();
   for (const auto& acts : std::vector<std::vector<Act>>{{Act::click("CmdAbort")}, {Act::close()}}) {

@@ -299,6 +299,21 @@ TEST_P(PickLists, FireMancaDBBeforeAnythingElse) {
   }
 }
 
+TEST_P(PickLists, EmptyTheVatCodeZeroOnlyAfterMancaDB) {
+  Globale::unload();
+  std::string code = "0";
+  std::string description;
+  const Subscription host = Globale::Eventi()->MancaDB.subscribe([&] {
+    log().add("mancadb");
+    EXPECT_EQ(code, "0");
+    Globale::Eventi()->ImpostaDB("logged:ufficio");
+  });
+  EXPECT_EQ(ListaTIPI_IVA(code, description), "");
+  EXPECT_THAT(log().entries, testing::Contains("mancadb"));
+  EXPECT_EQ(code, "");
+  EXPECT_EQ(driver().ran.back().sql, "Select DESCRIZIONE, COD_IVA From TIPI_IVA");
+}
+
 TEST_P(PickLists, TakeTheQuotesFromTheCallersArguments) {
   std::string code = "'A'";
   std::string description = "B''";
@@ -338,6 +353,35 @@ TEST_P(PickLists, GiveTheRowThatIsSelectedWhenItIsConfirmed) {
   EXPECT_EQ(chosenBy({Act::column(2), Act::row(2), Act::key("{Enter}")}), "a");
   EXPECT_EQ(chosenBy({Act::key("x"), Act::key("{Enter}")}), "C");  // no other key confirms
   EXPECT_THAT(hands().failedActs(), IsEmpty());
+}
+
+TEST_P(PickLists, TakeBlanksAloneFromAroundTheCode) {
+  answer(kLedgers, {"DESCRIZIONE", "MASTRO"}, {{text("Cassa"), text(" \t10\n ")}});
+  atLista({Act::click("CmdOK")});
+  EXPECT_EQ(ledgers(), "\t10\n");
+}
+
+TEST_P(PickLists, UnloadTheListOfABlankCodeThatIsConfirmed) {
+  answer(kLedgers, {"DESCRIZIONE", "MASTRO"}, {{text("Cassa"), text("  ")}});
+  atLista({Act::click("CmdOK")});
+  EXPECT_EQ(ledgers(), "");
+  EXPECT_EQ(hands().shown().size(), 1U);
+  EXPECT_THAT(loadedForms(), IsEmpty());
+}
+
+TEST_P(PickLists, GiveNothingAndUnloadTheListWhereNoRowIsSelected) {
+  answerCompanies();
+  answer(kAccounts, {"DESCRIZIONE", "MASTRO", "CONTO"}, {{text("Cassa"), text("10"), text("001")}});
+  const auto rows = [&]() -> toolkit::ListView& { return loadedForm("Lista")->surface().listView("ListView1"); };
+  for (const bool cleared : {false, true}) {
+    for (const bool account : {false, true}) {
+      log().at("modal Lista", [&] { cleared ? rows().clearRows() : rows().select(-1); });
+      atLista({Act::click("CmdOK")});
+      EXPECT_EQ(account ? accounts("%?%") : companies(), "");
+      EXPECT_THAT(log().take(), testing::IsSupersetOf({"hide Lista", "unload Lista"}));
+      EXPECT_THAT(loadedForms(), IsEmpty());
+    }
+  }
 }
 
 TEST_P(PickLists, ConfirmWithEnterOnceThoughTheListAndTheDefaultButtonBothWould) {
@@ -477,6 +521,9 @@ TEST_P(PickLists, FailOnANullInAnyColumnAndLeaveBothFormsLoaded) {
             << failure.what();
       }
       EXPECT_THAT(loadedForms(), ElementsAre("Ricerca", "Lista"));
+      const toolkit::Form* form = loadedForm("Lista");
+      ASSERT_NE(form, nullptr);
+      EXPECT_EQ(form->Caption(), list.title);
       EXPECT_THAT(hands().shown(), IsEmpty());
     }
   }
@@ -570,6 +617,43 @@ TEST_P(PickLists, AreLaidOutAsEver) {
     EXPECT_EQ(form->surface().widget("Image1").Name(), "Image1");
   });
   companies();
+}
+
+TEST_P(PickLists, StandAtTheirCornerInTheirStoredSizeWhateverWasClickedBefore) {
+  answerCompanies();
+  for (int opening = 0; opening < 2; ++opening) {
+    toolkit::Place stored;
+    log().at("load Lista", [&] { stored = loadedForm("Lista")->place(); });
+    log().at("modal Lista", [&] {
+      const toolkit::Place place = loadedForm("Lista")->place();
+      EXPECT_EQ(place, (toolkit::Place{800, 800, stored.width, stored.height}));
+      EXPECT_GE(place.width, 5940);
+      EXPECT_GE(place.height, 3180);
+      log().add("looked");
+    });
+    atLista({Act::column(2), Act::close()});
+    EXPECT_EQ(companies(), "");
+    EXPECT_THAT(log().take(), testing::Contains("looked"));
+  }
+}
+
+TEST_P(PickLists, RefuseAListWhileAnotherIsShownBeforeTheyAskTheDatabase) {
+  answerCompanies();
+  answer(kLedgers, {"DESCRIZIONE", "MASTRO"}, {{text("Cassa"), text("10")}});
+  log().at("modal Lista", [&] {
+    Globale::DB().Close();
+    const Subscription host = Globale::Eventi()->MancaDB.subscribe([&] { log().add("mancadb"); });
+    log().entries.clear();
+    std::string code = "1'";
+    std::string description = "'";
+    EXPECT_FAILURE(ListaMASTRI(code, description), FailureKind::InvalidCall, "Lista");
+    EXPECT_EQ(code + description, "1");
+    EXPECT_THAT(log().entries, ElementsAre("mancadb"));
+    EXPECT_THAT(loadedForms(), ElementsAre("Lista"));
+  });
+  atLista({Act::click("CmdOK")});
+  EXPECT_EQ(companies(), "C");
+  EXPECT_THAT(loadedForms(), IsEmpty());
 }
 
 TEST_P(PickLists, RefuseAListWhileAnotherIsShown) {

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <memory>
+#include <new>
 
 #include "qvn/shared/Globale.h"
 #include "qvn/toolkit/surface.h"
@@ -67,6 +68,55 @@ TEST_P(SharedForms, LoadOverThemselvesUnlessTheyAreShown) {
   shared.show();
   shared.load();
   EXPECT_THAT(loadedForms(), ElementsAre("FrmPROVA"));
+}
+
+TEST_P(SharedForms, TellTheFirstFailureThoughTheirUnloadFailsAfterIt) {
+  lookups::SharedForm shared(kLayout);
+  shared.load();
+  shared.form().Unload = [] { fail("scarico"); };
+  shared.form().surface().button("CmdUno").Click = [&] {
+    shared.form().hide();
+    fail("primo");
+  };
+  hands().layDown("FrmPROVA", {Act::click("CmdUno")});
+  EXPECT_FAILURE(shared.show(), FailureKind::Overflow, "FrmPROVA.CmdUno Click: primo");
+  EXPECT_THAT(loadedForms(), IsEmpty());
+}
+
+TEST_P(SharedForms, StayShownAndKeepTheirFailureWhereASecondShowingIsRefused) {
+  lookups::SharedForm shared(kLayout);
+  shared.load();
+  shared.form().surface().button("CmdUno").Click = [] { fail("primo"); };
+  shared.form().surface().button("CmdDue").Click = [&] {
+    EXPECT_FAILURE(shared.show(), FailureKind::InvalidCall, "FrmPROVA");
+    EXPECT_FAILURE(shared.load(), FailureKind::InvalidCall, "FrmPROVA");
+    log().add("refused");
+  };
+  hands().layDown("FrmPROVA", {Act::click("CmdUno"), Act::click("CmdDue")});
+  EXPECT_FAILURE(shared.show(), FailureKind::Overflow, "primo");
+  EXPECT_THAT(log().entries, testing::Contains("refused"));
+}
+
+TEST_P(SharedForms, LoadAgainWhereTheyCouldNotBeShown) {
+  lookups::SharedForm shared(kLayout);
+  shared.form().Load = [] { fail("carico"); };
+  EXPECT_FAILURE(shared.show(), FailureKind::Overflow, "carico");
+  EXPECT_NO_THROW(shared.requireNotShown());
+  EXPECT_NO_THROW(shared.load());
+  EXPECT_NO_THROW(shared.show());
+  EXPECT_THAT(loadedForms(), IsEmpty());
+}
+
+TEST_P(SharedForms, TellNoFailureOfAShowingThatEndedOtherwise) {
+  if (platform().name() != "memory") GTEST_SKIP() << "an event loop stands between";
+  lookups::SharedForm shared(kLayout);
+  shared.load();
+  shared.form().surface().button("CmdUno").Click = [] { fail("primo"); };
+  shared.form().surface().button("CmdDue").Click = [] { throw std::bad_alloc(); };
+  hands().layDown("FrmPROVA", {Act::click("CmdUno"), Act::click("CmdDue")});
+  EXPECT_THROW(shared.show(), std::bad_alloc);
+  EXPECT_NO_THROW(shared.load());
+  EXPECT_NO_THROW(shared.show());
 }
 
 TEST_P(SharedForms, AreUnloadedWhenTheyGo) {
