@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -32,6 +33,22 @@ bool isControl(char32_t c) { return c < 0x20 || (c >= 0x7F && c < 0xA0); }
 
 bool isField(const toolkit::Widget& widget) {
   return widget.Kind() == toolkit::WidgetKind::TextBox || widget.Kind() == toolkit::WidgetKind::DateControl;
+}
+
+/// The row that an arrow, Home or End leads to; nothing for another key.
+std::optional<std::int32_t> rowByKey(KeyName key, std::int32_t current, std::int32_t last) {
+  switch (key) {
+    case KeyName::Up:
+      return current > 0 ? current - 1 : current;
+    case KeyName::Down:
+      return std::min(current + 1, last);
+    case KeyName::Home:
+      return std::min(0, last);
+    case KeyName::End:
+      return last;
+    default:
+      return std::nullopt;
+  }
 }
 
 TextBuffer& bufferOf(toolkit::EditableText& field) {
@@ -140,25 +157,10 @@ bool Hands::pressInField(toolkit::EditableText& field, Key key) {
 
 bool Hands::pressInListView(ListView& list, Key key) {
   const std::int32_t last = list.rowCount() - 1;
-  const std::int32_t current = list.selected();
-  std::int32_t wanted = current;
-  switch (key.name) {
-    case KeyName::Up:
-      wanted = current < 0 ? last : std::max(current - 1, 0);
-      break;
-    case KeyName::Down:
-      wanted = std::min(current + 1, last);
-      break;
-    case KeyName::Home:
-      wanted = std::min(0, last);
-      break;
-    case KeyName::End:
-      wanted = last;
-      break;
-    default:
-      return key.character == 0 || keyPress(list, key.character) == key.character;
-  }
-  if (wanted >= 0) list.select(wanted);
+  const bool entersFromBelow = key.name == KeyName::Up && list.selected() < 0;
+  const auto wanted = entersFromBelow ? last : rowByKey(key.name, list.selected(), last);
+  if (!wanted) return key.character == 0 || keyPress(list, key.character) == key.character;
+  if (*wanted >= 0) list.select(*wanted);
   return true;
 }
 
@@ -191,27 +193,9 @@ void Hands::take(TextBox& box, char32_t character) {
 
 void Hands::pressInList(ComboBox& list, Key key) {
   const std::int32_t current = list.ListIndex();
-  const std::int32_t last = list.ListCount() - 1;
-  std::int32_t wanted = current;
-  switch (key.name) {
-    case KeyName::Up:
-      wanted = current > 0 ? current - 1 : current;
-      break;
-    case KeyName::Down:
-      wanted = std::min(current + 1, last);
-      break;
-    case KeyName::Home:
-      wanted = std::min(0, last);
-      break;
-    case KeyName::End:
-      wanted = last;
-      break;
-    case KeyName::Character:
-      wanted = list.nextBeginningWith(key.character);
-      break;
-    default:
-      break;
-  }
+  const std::int32_t wanted = key.name == KeyName::Character
+                                  ? list.nextBeginningWith(key.character)
+                                  : rowByKey(key.name, current, list.ListCount() - 1).value_or(current);
   if (wanted >= 0 && wanted != current) pick(list, wanted);
 }
 

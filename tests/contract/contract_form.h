@@ -13,6 +13,7 @@
 #include "qvn/toolkit/form.h"
 #include "qvn/toolkit/list_view.h"
 #include "tests/contract/contract_panel.h"
+#include "tests/loaded_forms.h"
 
 namespace qvn::test {
 
@@ -113,14 +114,7 @@ class ContractForm : public ContractPanel {
     return lines;
   }
 
-  std::vector<std::string> loadedForms() {
-    std::vector<std::string> names;
-    names.reserve(static_cast<std::size_t>(platform().forms().count()));
-    for (std::int32_t i = 0; i < platform().forms().count(); ++i) {
-      names.emplace_back(platform().forms().at(i).Name());
-    }
-    return names;
-  }
+  std::vector<std::string> loadedForms() { return namesOfLoadedForms(platform()); }
 
  private:
   void formLoaded(std::string_view form) override { heard.push_back("load " + std::string(form)); }

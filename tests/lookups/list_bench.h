@@ -11,6 +11,7 @@
 
 #include "qvn/shared/Globale.h"
 #include "tests/fake_database.h"
+#include "tests/loaded_forms.h"
 #include "tests/platforms.h"
 #include "tests/recording_container.h"
 
@@ -113,14 +114,7 @@ class ListBench : public testing::TestWithParam<PlatformMaker> {
   void atLista(std::vector<Act> acts) { hands().layDown("Lista", std::move(acts)); }
 
   /// The names of the loaded forms, in load order.
-  std::vector<std::string> loadedForms() {
-    std::vector<std::string> names;
-    names.reserve(static_cast<std::size_t>(platform().forms().count()));
-    for (std::int32_t i = 0; i < platform().forms().count(); ++i) {
-      names.emplace_back(platform().forms().at(i).Name());
-    }
-    return names;
-  }
+  std::vector<std::string> loadedForms() { return namesOfLoadedForms(platform()); }
   /// A form that is loaded; fails the test if it is not.
   toolkit::Form* loadedForm(std::string_view name) {
     for (std::int32_t i = 0; i < platform().forms().count(); ++i) {
