@@ -15,6 +15,7 @@ DataControl::DataControl(const Making& making)
 }
 
 void DataControl::Refresh() {
+  tell();
   fields_.clear();
   values_.clear();
   rowCount_ = 0;
