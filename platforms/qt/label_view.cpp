@@ -1,5 +1,6 @@
 #include "platforms/qt/label_view.h"
 
+#include <algorithm>
 #include <array>
 
 #include "platforms/qt/texts.h"
@@ -7,8 +8,9 @@
 namespace qvn::qt {
 
 namespace {
+constexpr int kNarrowest = 70;  // in hundredths of the letters' own width
 constexpr std::array kAlignments{Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
-}
+}  // namespace
 
 LabelView::LabelView(Screen& screen, toolkit::Label& model, QWidget& parent) : QLabel(&parent), View(screen, model) {
   const toolkit::WidgetLayout& row = model.layout();
@@ -20,8 +22,22 @@ LabelView::LabelView(Screen& screen, toolkit::Label& model, QWidget& parent) : Q
 
 void LabelView::showContent() {
   const QString caption = shown(static_cast<toolkit::Label&>(*subject()).Caption());
-  if (text() != caption) setText(caption);
   setWordWrap(height() >= 2 * fontMetrics().lineSpacing());
+  if (text() == caption) return;
+  setText(caption);
+  if (!wordWrap() && frameShape() == QFrame::NoFrame) fitCaption();
+}
+
+void LabelView::fitCaption() {
+  QFont plain = font();
+  plain.setStretch(QFont::Unstretched);
+  const int needed = QFontMetrics(plain).horizontalAdvance(text());
+  const int stretch =
+      needed <= width() || needed == 0 ? QFont::Unstretched : std::max(kNarrowest, 100 * width() / needed);
+  if (stretch == stretch_) return;
+  stretch_ = stretch;
+  plain.setStretch(stretch);
+  setFont(plain);
 }
 
 DataControlView::DataControlView(Screen& screen, toolkit::Widget& model, QWidget& parent)

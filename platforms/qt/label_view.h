@@ -14,6 +14,10 @@ class LabelView final : public QLabel, public View {
 
  private:
   void showContent() override;
+  /// Draws a caption that is wider than its place in narrower letters.
+  void fitCaption();
+
+  int stretch_ = QFont::Unstretched;
 };
 
 /// What stands for a data control, which shows nothing of its own.

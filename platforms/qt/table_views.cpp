@@ -32,7 +32,8 @@ ListWidget::ListWidget(Screen& screen, memory::ListView& model, QWidget& parent)
   header()->setSortIndicatorShown(true);
   header()->setStretchLastSection(false);
   connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& now) {
-    if (byPerson() && now.isValid() && now.row() != list().selected()) act(Act::row(now.row()), "KeyPress");
+    if (byPerson() && !gainingFocus_ && now.isValid() && now.row() != list().selected())
+      act(Act::row(now.row()), "KeyPress");
   });
   connect(this, &QTreeView::doubleClicked, this,
           [this](const QModelIndex& on) { act(Act::doubleClick(on.row()), "DblClick"); });
@@ -76,6 +77,13 @@ void ListWidget::keyPressEvent(QKeyEvent* event) {
   const bool byPage = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
   if (byPage) return QTreeView::keyPressEvent(event);
   if (!press(*event)) event->ignore();
+}
+
+void ListWidget::focusInEvent(QFocusEvent* event) {
+  gainingFocus_ = true;
+  QTreeView::focusInEvent(event);
+  gainingFocus_ = false;
+  if (byPerson()) onScreen().showAgain(*this);
 }
 
 GridWidget::GridWidget(Screen& screen, toolkit::DataGrid& model, QWidget& parent)

@@ -19,6 +19,8 @@ class ListWidget final : public QTreeView, public View {
  protected:
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  /// Qt makes the first row the current one of itself.
+  void focusInEvent(QFocusEvent* event) override;
 
  private:
   void showContent() override;
@@ -28,6 +30,7 @@ class ListWidget final : public QTreeView, public View {
 
   TableRows<toolkit::ListView>& rows_;
   std::uint64_t shownEdition_ = 0;
+  bool gainingFocus_ = false;
 };
 
 class GridWidget final : public QTableView, public View {
