@@ -14,13 +14,13 @@ QColor colourOf(std::uint32_t bgr) {
 
 bool isDark(const QColor& colour) { return qGray(colour.rgb()) < 128; }
 
-/// A colour that can be read on a back: where both are dark or both light, half as near.
+/// A colour that can be read on a back: what is dark on dark becomes light, in its own hue.
 QColor readable(const QColor& text, const QColor& back) {
-  if (isDark(text) != isDark(back)) return text;
-  return isDark(back) ? text.lighter(100).toHsl().lightness() == 0
-                            ? QColor(Qt::white)
-                            : QColor::fromHsl(text.toHsl().hslHue(), text.toHsl().hslSaturation(), 180)
-                      : text;
+  if (!isDark(text) || !isDark(back)) return text;
+  constexpr int kLight = 180;
+  constexpr int kWhite = 255;
+  const QColor hue = text.toHsl();
+  return QColor::fromHsl(hue.hslHue(), hue.hslSaturation(), hue.lightness() == 0 ? kWhite : kLight);
 }
 
 QColor between(const QColor& a, const QColor& b) {

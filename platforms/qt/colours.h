@@ -10,7 +10,7 @@ namespace qvn::qt {
 /// colours of a field and its text, light or dark; any other is as told, with text that stands out on it.
 QPalette fieldColours(const QPalette& desktop, std::uint32_t back, std::uint32_t fore);
 
-/// The palette of a text on the desktop's window, and on a back of its own where it is told one.
+/// The palette of a text on the desktop's window.
 QPalette textColours(const QPalette& desktop, std::uint32_t fore);
 
 }  // namespace qvn::qt

@@ -21,8 +21,7 @@ class FormWindow final : public QDialog {
   void leave();
   /// Shows the form's caption and place.
   void showForm();
-
- public:
+  /// Nothing: Escape is a key like any other.
   void reject() override {}
 
  protected:

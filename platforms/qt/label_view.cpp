@@ -8,6 +8,7 @@
 namespace qvn::qt {
 
 namespace {
+constexpr int kAir = 5;         // pixels beside a caption, so that it does not touch the field before it
 constexpr int kNarrowest = 70;  // in hundredths of the letters' own width
 constexpr std::array kAlignments{Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 }  // namespace
@@ -31,9 +32,8 @@ void LabelView::showContent() {
 void LabelView::fitCaption() {
   QFont plain = font();
   plain.setStretch(QFont::Unstretched);
-  const int needed = QFontMetrics(plain).horizontalAdvance(text());
-  const int stretch =
-      needed <= width() || needed == 0 ? QFont::Unstretched : std::max(kNarrowest, 100 * width() / needed);
+  const int needed = QFontMetrics(plain).horizontalAdvance(text()) + kAir;
+  const int stretch = needed <= width() ? QFont::Unstretched : std::max(kNarrowest, 100 * width() / needed);
   if (stretch == stretch_) return;
   stretch_ = stretch;
   plain.setStretch(stretch);

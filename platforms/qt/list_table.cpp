@@ -19,7 +19,8 @@ Qt::Alignment alignmentOf(const toolkit::DataGrid& grid, int column) {
 
 template <class Table>
 QVariant TableRows<Table>::data(const QModelIndex& index, int role) const {
-  if (table_ == nullptr || !index.isValid()) return {};
+  // A view may ask for what it last saw before it is told of what has become of it.
+  if (index.row() < 0 || index.row() >= rowCount() || index.column() >= columnCount()) return {};
   if (role == Qt::DisplayRole) return shown(table_->text(index.row(), index.column()));
   if (role == Qt::TextAlignmentRole) return QVariant(alignmentOf(*table_, index.column()) | Qt::AlignVCenter);
   return {};
@@ -27,7 +28,7 @@ QVariant TableRows<Table>::data(const QModelIndex& index, int role) const {
 
 template <class Table>
 QVariant TableRows<Table>::headerData(int section, Qt::Orientation orientation, int role) const {
-  if (table_ == nullptr || orientation != Qt::Horizontal || section >= table_->columnCount()) return {};
+  if (table_ == nullptr || orientation != Qt::Horizontal || section >= columnCount()) return {};
   if (role == Qt::DisplayRole) return captionOf(*table_, section);
   if (role == Qt::TextAlignmentRole) return QVariant(alignmentOf(*table_, section) | Qt::AlignVCenter);
   return {};

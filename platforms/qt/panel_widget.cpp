@@ -67,7 +67,9 @@ PanelWidget::PanelWidget(Screen& screen, memory::Surface& surface) : screen_(scr
   showFlags();
 }
 
-PanelWidget::~PanelWidget() { screen_.forget(*this); }
+PanelWidget::~PanelWidget() {
+  if (surface_ != nullptr) screen_.forget(*this);  // without one, the screen may be gone
+}
 
 void PanelWidget::make(toolkit::Widget& widget) {
   QWidget* parent = this;

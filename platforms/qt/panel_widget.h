@@ -23,8 +23,10 @@ class PanelWidget final : public QWidget {
   void showFlags();
   /// The surface goes.
   void detach();
-  /// The window around the form that this is the inside of; none as long as it was not shown.
-  FormWindow* window = nullptr;
+  const std::unordered_map<const toolkit::Widget*, View*>& views() const { return views_; }
+  /// The window around the form that this is the inside of; null until it is first shown.
+  FormWindow* formWindow() const { return window_; }
+  void formWindow(FormWindow& window) { window_ = &window; }
 
  protected:
   void changeEvent(QEvent* event) override;
@@ -36,9 +38,7 @@ class PanelWidget final : public QWidget {
   Screen& screen_;
   memory::Surface* surface_;
   std::unordered_map<const toolkit::Widget*, View*> views_;
-
- public:
-  const std::unordered_map<const toolkit::Widget*, View*>& views() const { return views_; }
+  FormWindow* window_ = nullptr;
 };
 
 }  // namespace qvn::qt

@@ -48,13 +48,12 @@ void Screen::forget(const PanelWidget& panel) noexcept {
     std::ranges::replace(stale_, view, nullptr);
     if (holderShown_ == widget) holderShown_ = nullptr;
   }
-  if (panel.surface() == nullptr) return;
   std::erase(staleFlags_, panel.surface());
   panels_.erase(panel.surface());
 }
 
 void Screen::discard(PanelWidget& panel) noexcept {
-  QWidget& outermost = panel.window != nullptr ? static_cast<QWidget&>(*panel.window) : panel;
+  QWidget& outermost = panel.formWindow() != nullptr ? static_cast<QWidget&>(*panel.formWindow()) : panel;
   outermost.hide();
   // Qt may stand on it at the moment.
   if (acting_ > 0 || settling_ || QThread::currentThread()->loopLevel() > 0) {
@@ -88,7 +87,8 @@ void Screen::changed(const memory::Form& form) {
 
 FormWindow* Screen::windowOf(const memory::Form& form) const {
   for (const auto& [surface, panel] : panels_) {
-    if (panel->window != nullptr && panel->window->form() == &form) return panel->window;
+    FormWindow* window = panel->formWindow();
+    if (window != nullptr && window->form() == &form) return window;
   }
   return nullptr;
 }
@@ -96,8 +96,8 @@ FormWindow* Screen::windowOf(const memory::Form& form) const {
 void Screen::shown(memory::Form& form) {
   PanelWidget& inside = widgetOf(static_cast<memory::Surface&>(form.surface()));
   const bool before = std::exchange(settling_, true);
-  if (inside.window == nullptr) inside.window = new FormWindow(*this, inside);
-  inside.window->stand(form);
+  if (inside.formWindow() == nullptr) inside.formWindow(*new FormWindow(*this, inside));
+  inside.formWindow()->stand(form);
   settling_ = before;
   settle();
 }
