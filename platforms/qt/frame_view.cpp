@@ -16,9 +16,11 @@ void FrameView::showContent() {
 
 void FrameView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
+  painter.setRenderHint(QPainter::Antialiasing);
   const QFontMetrics metrics = fontMetrics();
   const int middle = title().isEmpty() ? 0 : metrics.height() / 2;
-  const QRect line = rect().adjusted(0, middle, -1, -1);
+  constexpr double kHalfLine = 0.5;
+  const QRectF line = QRectF(rect()).adjusted(kHalfLine, middle + kHalfLine, -kHalfLine, -kHalfLine);
   const QRect caption(metrics.averageCharWidth() + 2, 0, metrics.horizontalAdvance(title()) + 4, metrics.height());
   if (!title().isEmpty()) painter.setClipRegion(QRegion(rect()) - QRegion(caption));
   painter.setPen(palette().color(QPalette::Mid));

@@ -160,17 +160,18 @@ void Screen::settle() {
     }
     holderShown_ = holder;
   }
-  for (std::size_t i = 0; i < staleFlags_.size(); ++i) {
-    if (const auto panel = panels_.find(staleFlags_[i]); panel != panels_.end()) panel->second->showFlags();
+  while (!staleFlags_.empty()) {
+    const auto panel = panels_.find(staleFlags_.back());
+    staleFlags_.pop_back();
+    if (panel != panels_.end()) panel->second->showFlags();
   }
-  staleFlags_.clear();
-  // By index: what is shown may make another stale.
-  for (std::size_t i = 0; i < stale_.size(); ++i) {
-    if (stale_[i] == nullptr) continue;
-    stale_[i]->stale_ = false;
-    stale_[i]->showSubject();
+  while (!stale_.empty()) {
+    View* view = stale_.back();
+    stale_.pop_back();
+    if (view == nullptr) continue;
+    view->stale_ = false;
+    view->showSubject();
   }
-  stale_.clear();
   showFocus();
   settling_ = false;
 }
