@@ -53,9 +53,9 @@ void LaidDown::add(std::string_view form, std::vector<Act> acts) {
   found->second.push(std::move(acts));
 }
 
-std::vector<Act> LaidDown::next(std::string_view form) {
+std::optional<std::vector<Act>> LaidDown::next(std::string_view form) {
   const auto found = acts_.find(form);
-  if (found == acts_.end()) return {};
+  if (found == acts_.end()) return std::nullopt;
   std::vector<Act> acts = std::move(found->second.front());
   found->second.pop();
   if (found->second.empty()) acts_.erase(found);

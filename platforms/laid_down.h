@@ -2,6 +2,7 @@
 #pragma once
 
 #include <map>
+#include <optional>
 #include <queue>
 #include <string>
 #include <string_view>
@@ -16,7 +17,7 @@ class LaidDown {
  public:
   void add(std::string_view form, std::vector<Act> acts);
   /// Uses up what is to be done at the showing of a form that begins now; nothing if nothing was laid down for it.
-  std::vector<Act> next(std::string_view form);
+  std::optional<std::vector<Act>> next(std::string_view form);
 
   void fail(FailedAct act) { failed_.push_back(std::move(act)); }
   std::vector<FailedAct> takeFailed();

@@ -11,6 +11,9 @@
 
 #include "platforms/memory/platform.h"
 #include "platforms/operator.h"
+#ifdef QVN_QT
+#include "platforms/qt/platform.h"
+#endif
 #include "qvn/toolkit/platform.h"
 
 namespace qvn::test {
@@ -63,6 +66,9 @@ constexpr PlatformMaker platformOf(std::string_view name) {
 /// Every platform that is tested; a new one is one more line here, and its library one in tests/CMakeLists.txt.
 inline constexpr std::array kPlatforms{
     platformOf<memory::Platform>("memory"),
+#ifdef QVN_QT
+    platformOf<qt::OffscreenPlatform>("qt"),
+#endif
 };
 
 }  // namespace qvn::test

@@ -4,6 +4,9 @@
 #include <array>
 
 #include "platforms/memory/platform.h"
+#ifdef QVN_QT
+#include "platforms/qt/platform.h"
+#endif
 
 namespace qvn::play {
 
@@ -33,6 +36,9 @@ std::unique_ptr<Toolkit> make() {
 
 constexpr std::array kToolkits{
     Named{.name = "memory", .make = make<memory::Platform>},
+#ifdef QVN_QT
+    Named{.name = "qt", .make = make<qt::OffscreenPlatform>},
+#endif
 };
 
 }  // namespace

@@ -24,6 +24,7 @@ class CheckBox final : public Common<toolkit::CheckBox> {
     }
     if (value == value_) return;
     value_ = value;
+    tell();
     surface().raise(Click);
   }
 

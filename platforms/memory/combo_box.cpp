@@ -8,11 +8,14 @@ namespace qvn::memory {
 
 ComboBox::ComboBox(const Making& making) : Common(making, toolkit::kWhite) {
   items_.reserve(making.layout.items.size());
-  for (const std::string_view item : making.layout.items) AddItem(item);
+  for (const std::string_view item : making.layout.items) items_.push_back(utf8::valid(item));
   if (!making.layout.caption.empty()) current_ = indexOf(utf8::valid(making.layout.caption));
 }
 
-void ComboBox::AddItem(std::string_view item) { items_.push_back(utf8::valid(item)); }
+void ComboBox::AddItem(std::string_view item) {
+  items_.push_back(utf8::valid(item));
+  tell();
+}
 
 void ComboBox::RemoveItem(std::int32_t index) {
   at(index);
@@ -22,11 +25,13 @@ void ComboBox::RemoveItem(std::int32_t index) {
   } else if (index < current_) {
     --current_;
   }
+  tell();
 }
 
 void ComboBox::Clear() {
   items_.clear();
   current_ = -1;
+  tell();
 }
 
 std::string ComboBox::List(std::int32_t index) const { return at(index); }
@@ -34,6 +39,7 @@ std::string ComboBox::List(std::int32_t index) const { return at(index); }
 void ComboBox::ListIndex(std::int32_t index) {
   if (index != -1) at(index);
   current_ = index;
+  tell();
   surface().raise(Click);
 }
 

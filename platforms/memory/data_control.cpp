@@ -16,6 +16,7 @@ DataControl::DataControl(const Making& making)
 }
 
 void DataControl::Refresh() {
+  tell();
   answer_ = {};
   connection_.Close();
   answer_ = placed(fullName(*this), [this] { return ask(); });

@@ -59,6 +59,7 @@ void DataGrid::column(std::int32_t index, Column column) {
   requireFormat(column.numberFormat);
   column.caption = utf8::valid(column.caption);
   columns_[static_cast<std::size_t>(index)] = std::move(column);
+  tell();
 }
 
 std::string DataGrid::text(std::int32_t row, std::int32_t column) const {

@@ -15,9 +15,9 @@ class Editable : public Common<Interface> {
   std::string Text() const final { return buffer_.text(); }
   std::int32_t SelStart() const final { return buffer_.selStart(); }
   /// Moves the caret there; nothing is selected then.
-  void SelStart(std::int32_t start) final { buffer_.select(start, 0); }
+  void SelStart(std::int32_t start) final { select(start, 0); }
   std::int32_t SelLength() const final { return buffer_.selLength(); }
-  void SelLength(std::int32_t length) final { buffer_.select(buffer_.selStart(), length); }
+  void SelLength(std::int32_t length) final { select(buffer_.selStart(), length); }
 
   TextBuffer& buffer() { return buffer_; }
 
@@ -25,10 +25,17 @@ class Editable : public Common<Interface> {
   explicit Editable(const Making& making) : Common<Interface>(making, toolkit::kWhite) {}
 
   void write(std::string_view text) {
-    if (buffer_.set(text)) this->surface().raise(this->Change);
+    if (!buffer_.set(text)) return;
+    this->tell();
+    this->surface().raise(this->Change);
   }
 
  private:
+  void select(std::int32_t start, std::int32_t length) {
+    buffer_.select(start, length);
+    this->tell();
+  }
+
   TextBuffer buffer_;
 };
 

@@ -6,6 +6,7 @@
 #include <string_view>
 #include <utility>
 
+#include "platforms/memory/stage.h"
 #include "platforms/memory/surface.h"
 #include "platforms/memory/usable.h"
 #include "qvn/shared/failure.h"
@@ -50,6 +51,10 @@ Watcher* Focus::watcherOf(const toolkit::Widget& widget) const {
   return surfaceOf(widget).isOfForm() ? nullptr : watcher_;
 }
 
+void Focus::tell() const {
+  if (stage_ != nullptr) stage_->focusMoved();
+}
+
 template <class OnFailure>
 void Focus::move(toolkit::Widget* to, OnFailure onFailure) {
   const auto raise = [&](toolkit::Widget& widget, const std::function<void()>* handler, std::string_view event) {
@@ -61,6 +66,7 @@ void Focus::move(toolkit::Widget* to, OnFailure onFailure) {
     }
   };
   holder_ = to;
+  tell();
   if (told_ != nullptr) {
     toolkit::Widget& from = *std::exchange(told_, nullptr);
     if (Watcher* watcher = watcherOf(from)) watcher->lostFocus(from);
@@ -126,6 +132,7 @@ void Focus::enter(Surface& form) {
   shown_.push_back({.form = &form, .holder = holder_, .told = told_});
   holder_ = nullptr;
   told_ = nullptr;
+  tell();
 }
 
 void Focus::leave(const Surface& form) {
@@ -139,6 +146,7 @@ void Focus::leave(const Surface& form) {
   holder = found->holder;
   told = found->told;
   shown_.erase(found);
+  tell();
   if (wasFront && holder_ != nullptr && !canHoldFocus(*holder_)) moveByHand(nullptr);
 }
 

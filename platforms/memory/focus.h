@@ -9,6 +9,7 @@
 
 namespace qvn::memory {
 
+class Stage;
 class Surface;
 
 /// Moves the focus and raises its events. They come in pairs, whatever handlers do in between: a widget that was told
@@ -20,6 +21,7 @@ class Focus {
 
   toolkit::Widget* holder() const { return holder_; }
   void watch(Watcher* watcher) { watcher_ = watcher; }
+  void show(Stage* stage) { stage_ = stage; }
 
   /// Gives the widget the focus. "invalid call", naming it, if it cannot hold it. Where handlers fail, the first
   /// failure passes on when both have run.
@@ -53,6 +55,8 @@ class Focus {
 
   /// Who is to hear of the widget, or null.
   Watcher* watcherOf(const toolkit::Widget& widget) const;
+  /// Tells the stage that another widget has the focus, or none.
+  void tell() const;
   template <class OnFailure>
   void move(toolkit::Widget* to, OnFailure onFailure);
   void moveByProgram(toolkit::Widget* to);
@@ -60,6 +64,7 @@ class Focus {
 
   Turns& turns_;
   Watcher* watcher_ = nullptr;
+  Stage* stage_ = nullptr;
   toolkit::Widget* holder_ = nullptr;
   std::vector<Shown> shown_;
   toolkit::Widget* told_ = nullptr;  // has had its GotFocus and not yet its LostFocus

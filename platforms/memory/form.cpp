@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "platforms/memory/platform.h"
+#include "platforms/memory/stage.h"
 #include "platforms/memory/utf8.h"
 #include "qvn/shared/failure.h"
 
@@ -54,6 +55,7 @@ std::string Form::Caption() const {
 void Form::Caption(std::string_view caption) {
   standing();
   caption_ = utf8::valid(caption);
+  tell();
 }
 
 toolkit::Place Form::place() const {
@@ -64,6 +66,15 @@ toolkit::Place Form::place() const {
 void Form::place(toolkit::Place place) {
   standing();
   place_ = place;
+  tell();
+}
+
+void Form::tell() const {
+  if (Stage* stage = platform_.stage()) stage->changed(*this);
+}
+
+void Form::refresh() {
+  if (Stage* stage = platform_.stage(); stage != nullptr && loaded()) stage->refresh(*this);
 }
 
 void Form::load() {
@@ -75,6 +86,7 @@ void Form::load() {
   surface_ = std::move(surface);
   caption_ = utf8::valid(layout_.caption);
   place_ = {.width = layout_.inside.width + kFrameWidth, .height = layout_.inside.height + kFrameHeight};
+  if (Stage* stage = platform_.stage()) stage->made(*surface_);
   if (Watcher* watcher = platform_.watcher()) watcher->formLoaded(Name());
   if (Load) Load();
 }
@@ -132,6 +144,7 @@ bool Form::report(const Failure& failure) noexcept {
 
 void Form::leaveScreen(Showing& showing, Surface& surface) {
   showing.over = true;
+  if (Stage* stage = platform_.stage()) stage->hidden(*this);
   surface.hideWithoutEvents();
   platform_.focus().leave(surface);
 }
@@ -157,6 +170,7 @@ void Form::showModal() {
   platform_.focus().enter(surface);
   showing_ = &showing;
   surface.Visible(true);
+  if (Stage* stage = platform_.stage()) stage->shown(*this);
   try {
     if (Watcher* watcher = platform_.watcher()) watcher->formShown(Name());
     platform_.hands().attend(*this, surface, showing);

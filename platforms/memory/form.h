@@ -39,10 +39,12 @@ class Form final : public toolkit::Form, public Turns::Lasting {
   void load() override;
   void unload() override;
   bool loaded() const override { return surface_ != nullptr; }
-  void refresh() override {}
+  void refresh() override;
   void showModal() override;
   void hide() override;
   toolkit::Surface& surface() const override { return standing(); }
+  /// As the operator closes the window by its frame.
+  void closeByFrame();
 
  private:
   void destroy() noexcept override;
@@ -54,7 +56,7 @@ class Form final : public toolkit::Form, public Turns::Lasting {
   template <class OnFailure>
   void unload(OnFailure onFailure);
   void takeAway();
-  void closeByFrame();
+  void tell() const;
   /// False if the form has no widget in whose name the failure could be reported.
   bool report(const Failure& failure) noexcept;
 

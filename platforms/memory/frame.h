@@ -15,7 +15,10 @@ class Frame final : public Common<toolkit::Frame> {
       : Common(making, toolkit::kFaceGray), caption_(utf8::valid(making.layout.caption)) {}
 
   std::string Caption() const override { return caption_; }
-  void Caption(std::string_view caption) override { caption_ = utf8::valid(caption); }
+  void Caption(std::string_view caption) override {
+    caption_ = utf8::valid(caption);
+    tell();
+  }
 
  private:
   std::string caption_;

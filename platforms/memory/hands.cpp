@@ -87,7 +87,11 @@ void Hands::type(std::string_view keys) {
   while (const std::optional<Key> key = reader.next()) press(*key);
 }
 
-void Hands::caret(std::int32_t start, std::int32_t length) { bufferOf(heldField()).select(start, length); }
+void Hands::caret(std::int32_t start, std::int32_t length) {
+  toolkit::EditableText& field = heldField();
+  bufferOf(field).select(start, length);
+  surfaceOf(field).tell(field);
+}
 
 void Hands::paste(std::string_view text) {
   toolkit::EditableText& field = heldField();
@@ -135,18 +139,23 @@ bool Hands::pressInField(toolkit::EditableText& field, Key key) {
   switch (key.name) {
     case KeyName::Left:
       buffer.left();
+      surfaceOf(field).tell(field);
       return true;
     case KeyName::Right:
       buffer.right();
+      surfaceOf(field).tell(field);
       return true;
     case KeyName::Home:
       buffer.home();
+      surfaceOf(field).tell(field);
       return true;
     case KeyName::End:
       buffer.end();
+      surfaceOf(field).tell(field);
       return true;
     case KeyName::Delete:
       if (field.Kind() == toolkit::WidgetKind::TextBox && buffer.erase()) {
+        surfaceOf(field).tell(field);
         byHand(field, "Change", [&] { surfaceOf(field).raise(field.Change); });
       }
       return true;
@@ -188,6 +197,7 @@ void Hands::take(TextBox& box, char32_t character) {
   } else {
     box.buffer().insert(character);
   }
+  surfaceOf(box).tell(box);
   byHand(box, "Change", [&] { surfaceOf(box).raise(box.Change); });
 }
 

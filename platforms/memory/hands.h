@@ -42,18 +42,20 @@ class Hands final : public Operator {
 
   /// Does at a form that has just come to stand what was laid down for it, until the showing is over or nothing is left
   /// but to close it by its frame.
-  void attend(const toolkit::Form& form, Surface& surface, const Showing& showing);
+  void attend(const Form& form, Surface& surface, const Showing& showing);
+
+  /// Presses a key at what has the focus. "invalid call" if nothing has it, unless a form stands.
+  void press(Key key);
+  /// Selects or double-clicks a row of a list, or clicks a column's head.
+  void actAtList(ListView& list, const Act& act);
 
  private:
   void act(const toolkit::Form& form, Surface& surface, const Act& act);
-  void actAtList(ListView& list, const Act& act);
 
   void own(const toolkit::Widget& widget) const;
   toolkit::Widget& held() const;
   toolkit::EditableText& heldField() const;
 
-  /// Presses a key at what has the focus. "invalid call" if nothing has it, unless a form stands.
-  void press(Key key);
   /// False if the widget has used the key up, so that it does not reach its form.
   bool pressIn(toolkit::Widget& widget, Key key);
   bool pressInField(toolkit::EditableText& field, Key key);

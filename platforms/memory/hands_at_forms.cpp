@@ -9,6 +9,7 @@
 #include "platforms/memory/hands.h"
 #include "platforms/memory/list_view.h"
 #include "platforms/memory/platform.h"
+#include "platforms/memory/stage.h"
 #include "platforms/memory/usable.h"
 #include "qvn/shared/failure.h"
 
@@ -53,12 +54,16 @@ toolkit::Widget* firstStop(const Surface& form) {
 
 }  // namespace
 
-void Hands::attend(const toolkit::Form& form, Surface& surface, const Showing& showing) {
-  std::vector<Act> acts = laidDown_.next(surface.name());
+void Hands::attend(const Form& form, Surface& surface, const Showing& showing) {
+  std::optional<std::vector<Act>> acts = laidDown_.next(surface.name());
   if (toolkit::Widget* first = firstStop(surface)) platform_.focus().giveByHand(*first);
   if (showing.over) return;
   laidDown_.look(form);
-  for (Act& next : acts) {
+  if (!acts) {
+    if (Stage* stage = platform_.stage()) stage->waitAt(form, showing.over);
+    return;
+  }
+  for (Act& next : *acts) {
     if (next.kind == Act::Kind::Close) return;
     try {
       act(form, surface, next);

@@ -20,6 +20,7 @@ class Label final : public Common<toolkit::Label> {
     std::string written = utf8::valid(caption);
     if (written == caption_) return;
     caption_ = std::move(written);
+    tell();
     surface().raise(Change);
   }
 

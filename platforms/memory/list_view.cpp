@@ -8,8 +8,19 @@
 
 namespace qvn::memory {
 
+void ListView::alter() {
+  ++edition_;
+  tell();
+}
+
+void ListView::clearColumns() {
+  columns_.clear();
+  alter();
+}
+
 void ListView::addColumn(std::string_view caption, std::int32_t width) {
   columns_.push_back({.caption = utf8::valid(caption), .width = width});
+  alter();
 }
 
 const ListView::Column& ListView::at(std::int32_t column) const {
@@ -20,6 +31,7 @@ const ListView::Column& ListView::at(std::int32_t column) const {
 void ListView::clearRows() {
   rows_.clear();
   selected_ = -1;
+  alter();
 }
 
 void ListView::addRow(std::span<const std::string_view> texts) {
@@ -31,6 +43,7 @@ void ListView::addRow(std::span<const std::string_view> texts) {
                                                 .append(std::to_string(texts.size()))
                                                 .append(" texts"));
   }
+  alter();
   if (std::ranges::all_of(texts, utf8::isValid)) return rows_.add(texts);
   std::vector<std::string> mended;
   mended.reserve(texts.size());
@@ -51,12 +64,14 @@ std::int32_t ListView::selected() const {
 }
 
 void ListView::select(std::int32_t row) {
-  if (row == -1) {
-    selected_ = -1;
-    return;
-  }
-  requirePlace(*this, "rows", rowCount(), row);
-  selected_ = rows_.order()[static_cast<std::size_t>(row)];
+  if (row != -1) requirePlace(*this, "rows", rowCount(), row);
+  selected_ = row == -1 ? -1 : std::int64_t{rows_.order()[static_cast<std::size_t>(row)]};
+  tell();
+}
+
+void ListView::sort() {
+  rows_.sortBy(static_cast<std::size_t>(sortKey_), sortOrder_ == 1);
+  alter();
 }
 
 void ListView::SortKey(std::int16_t column) {

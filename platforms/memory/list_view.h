@@ -16,7 +16,7 @@ class ListView final : public Common<toolkit::ListView> {
  public:
   explicit ListView(const Making& making) : Common(making, toolkit::kWhite) {}
 
-  void clearColumns() override { columns_.clear(); }
+  void clearColumns() override;
   void addColumn(std::string_view caption, std::int32_t width) override;
   std::int32_t columnCount() const override { return static_cast<std::int32_t>(columns_.size()); }
   std::string columnCaption(std::int32_t column) const override { return at(column).caption; }
@@ -35,6 +35,9 @@ class ListView final : public Common<toolkit::ListView> {
   std::int16_t SortOrder() const override { return sortOrder_; }
   void SortOrder(std::int16_t order) override;
 
+  /// Another number after each change of columns, rows or their order.
+  std::uint64_t edition() const { return edition_; }
+
  private:
   struct Column {
     std::string caption;
@@ -42,11 +45,14 @@ class ListView final : public Common<toolkit::ListView> {
   };
 
   const Column& at(std::int32_t column) const;
-  void sort() { rows_.sortBy(static_cast<std::size_t>(sortKey_), sortOrder_ == 1); }
+  void sort();
+
+  void alter();
 
   std::vector<Column> columns_;
   SortedRows rows_;
   std::int64_t selected_ = -1;  // the row's number in the order of coming
+  std::uint64_t edition_ = 1;
   std::int16_t sortKey_ = 0;
   std::int16_t sortOrder_ = 0;
 };

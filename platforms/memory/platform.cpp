@@ -10,6 +10,7 @@ std::unique_ptr<toolkit::Surface> Platform::makeSurface(const toolkit::PanelLayo
                                                         toolkit::Container& container, std::string name) {
   auto surface = std::make_unique<Surface>(*this, layout, container, std::move(name));
   surface->makeWidgets();
+  if (stage_ != nullptr) stage_->made(*surface);
   return surface;
 }
 
@@ -25,6 +26,11 @@ void Platform::beep() {
 void Platform::watch(Watcher* watcher) {
   watcher_ = watcher;
   focus_.watch(watcher);
+}
+
+void Platform::show(Stage* stage) {
+  stage_ = stage;
+  focus_.show(stage);
 }
 
 }  // namespace qvn::memory

@@ -10,6 +10,7 @@
 #include "platforms/memory/focus.h"
 #include "platforms/memory/form.h"
 #include "platforms/memory/hands.h"
+#include "platforms/memory/stage.h"
 #include "platforms/memory/turns.h"
 #include "platforms/operator.h"
 #include "qvn/toolkit/platform.h"
@@ -22,7 +23,7 @@ namespace qvn::memory {
 ///
 /// A panel may be dropped at any moment, from inside a handler of its own as well; nothing more is raised on it then.
 /// Handlers that call each other without end fail with "invalid call" before the stack is used up.
-class Platform final : public toolkit::Platform {
+class Platform : public toolkit::Platform {
  public:
   Platform() = default;
   Platform(const Platform&) = delete;
@@ -59,9 +60,14 @@ class Platform final : public toolkit::Platform {
 
   /// For the platform's own widgets and forms.
   Watcher* watcher() const { return watcher_; }
+  Stage* stage() const { return stage_; }
   LoadedForms& loadedForms() { return forms_; }
   Focus& focus() { return focus_; }
   Turns& turns() { return turns_; }
+
+ protected:
+  /// Shows the widgets from now on; null shows them no more. Set while there is no panel and no form.
+  void show(Stage* stage);
 
  private:
   Turns turns_;
@@ -72,6 +78,7 @@ class Platform final : public toolkit::Platform {
   LoadedForms forms_;
   toolkit::Drivers drivers_;
   Watcher* watcher_ = nullptr;
+  Stage* stage_ = nullptr;
   std::int64_t beeps_ = 0;
 };
 

@@ -14,6 +14,7 @@
 #include "platforms/memory/label.h"
 #include "platforms/memory/list_view.h"
 #include "platforms/memory/platform.h"
+#include "platforms/memory/stage.h"
 #include "platforms/memory/text_box.h"
 
 namespace qvn::memory {
@@ -77,6 +78,7 @@ Surface::~Surface() {
 void Surface::operator delete(Surface* surface, std::destroying_delete_t) {
   surface->dropped_ = true;
   surface->platform_.focus().forget(*surface);
+  if (Stage* stage = surface->platform_.stage()) stage->dropped(*surface);
   surface->platform_.turns().drop(*surface);
 }
 
@@ -131,12 +133,27 @@ Turns& Surface::turns() const { return platform_.turns(); }
 
 void Surface::Visible(bool visible) {
   visible_ = visible;
+  tellFlags();
   checkFocus();
 }
 
 void Surface::Enabled(bool enabled) {
   enabled_ = enabled;
+  tellFlags();
   checkFocus();
+}
+
+void Surface::hideWithoutEvents() {
+  visible_ = false;
+  tellFlags();
+}
+
+void Surface::tell(const toolkit::Widget& widget) const {
+  if (Stage* stage = platform_.stage()) stage->changed(widget);
+}
+
+void Surface::tellFlags() const {
+  if (Stage* stage = platform_.stage()) stage->changed(*this);
 }
 
 void Surface::giveFocus(toolkit::Widget& widget) { platform_.focus().give(widget); }

@@ -46,7 +46,7 @@ class Surface final : public toolkit::Surface, public Turns::Lasting {
   bool Enabled() const override { return enabled_; }
   void Enabled(bool enabled) override;
   /// For a surface whose widgets lose the focus by other means.
-  void hideWithoutEvents() { visible_ = false; }
+  void hideWithoutEvents();
 
   bool dropped() const override { return dropped_; }
 
@@ -69,6 +69,9 @@ class Surface final : public toolkit::Surface, public Turns::Lasting {
   /// Who hears what happens on the platform, or null.
   Watcher* watcher() const;
 
+  /// Tells the stage, where there is one, that something of a widget has another value to show.
+  void tell(const toolkit::Widget& widget) const;
+
   /// SetFocus of one of the widgets.
   void giveFocus(toolkit::Widget& widget);
   /// Takes the focus from its holder if that can no longer hold it, after a flag of this surface has changed.
@@ -79,6 +82,7 @@ class Surface final : public toolkit::Surface, public Turns::Lasting {
   void release() noexcept override { turns().end(); }
 
   Turns& turns() const;
+  void tellFlags() const;
   toolkit::Frame* frameNamed(const toolkit::WidgetLayout& row) const;
   void destroy() noexcept override;
 

@@ -25,23 +25,34 @@ class Common : public Interface {
   toolkit::Frame* frame() const final { return frame_; }
 
   toolkit::Place place() const final { return place_; }
-  void place(toolkit::Place place) final { place_ = place; }
+  void place(toolkit::Place place) final {
+    place_ = place;
+    tell();
+  }
 
   bool Enabled() const final { return enabled_; }
   void Enabled(bool enabled) final {
     enabled_ = enabled;
+    tell();
     surface_.checkFocus();
   }
   bool Visible() const final { return visible_; }
   void Visible(bool visible) final {
     visible_ = visible;
+    tell();
     surface_.checkFocus();
   }
 
   std::uint32_t BackColor() const final { return back_; }
-  void BackColor(std::uint32_t colour) final { back_ = colour; }
+  void BackColor(std::uint32_t colour) final {
+    back_ = colour;
+    tell();
+  }
   std::uint32_t ForeColor() const final { return fore_; }
-  void ForeColor(std::uint32_t colour) final { fore_ = colour; }
+  void ForeColor(std::uint32_t colour) final {
+    fore_ = colour;
+    tell();
+  }
 
   void SetFocus() final { surface_.giveFocus(*this); }
   bool hasFocus() const final { return surface_.platform().focused() == this; }
@@ -59,6 +70,8 @@ class Common : public Interface {
         visible_(making.layout.visible) {}
 
   Surface& surface() const { return surface_; }
+  /// Tells the stage that the widget has another value to show.
+  void tell() { surface_.tell(*this); }
 
  private:
   const toolkit::WidgetLayout& layout_;

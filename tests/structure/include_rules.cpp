@@ -88,7 +88,16 @@ std::string_view folderIn(std::string_view house, std::string_view path) {
   return slash == std::string_view::npos ? std::string_view() : inside.substr(0, slash);
 }
 
+/// A house's folder that another rests on.
+constexpr std::array kFoundations{std::pair<std::string_view, std::string_view>{"platforms/qt/", "platforms/memory/"}};
+
+/// Where Qt may be included.
+constexpr std::string_view kQtRooms = "platforms/qt/ hosts/ufficio/ tests/qt/";
+
 bool areStrangers(std::string_view a, std::string_view b) {
+  for (const auto& [above, foundation] : kFoundations) {
+    if (a.starts_with(above) && b.starts_with(foundation)) return false;
+  }
   return std::ranges::any_of(kHouses, [&](std::string_view house) {
     if (!a.starts_with(house) || !b.starts_with(house)) return false;
     const auto x = folderIn(house, a);
@@ -112,6 +121,7 @@ std::optional<std::string> wrongWith(const std::string& path, const Room& room, 
   if (!include.quoted) {
     if (own) return "is the project's own and wants quotes";
     if (room.standardLibraryOnly && !isStandardHeader(include.name)) return "is not of the standard library";
+    if (include.name.front() == 'Q' && !liesInOneOf(path, kQtRooms)) return "is Qt's, outside " + std::string(kQtRooms);
     return {};
   }
   if (!own || include.name.find("..") != std::string::npos) return "is not written from the root";

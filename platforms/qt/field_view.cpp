@@ -1,0 +1,217 @@
+#include "platforms/qt/field_view.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QInputMethodEvent>
+#include <QMenu>
+#include <QMouseEvent>
+#include <algorithm>
+#include <array>
+#include <limits>
+
+#include "platforms/qt/colours.h"
+#include "platforms/qt/screen.h"
+#include "platforms/qt/texts.h"
+
+namespace qvn::qt {
+
+namespace {
+
+constexpr std::array kAlignments{Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
+
+/// What Qt's own field does by these keys changes no text.
+constexpr std::array kSelecting{QKeySequence::SelectAll,
+                                QKeySequence::Copy,
+                                QKeySequence::Deselect,
+                                QKeySequence::SelectNextChar,
+                                QKeySequence::SelectPreviousChar,
+                                QKeySequence::SelectNextWord,
+                                QKeySequence::SelectPreviousWord,
+                                QKeySequence::SelectStartOfLine,
+                                QKeySequence::SelectEndOfLine,
+                                QKeySequence::SelectStartOfBlock,
+                                QKeySequence::SelectEndOfBlock,
+                                QKeySequence::SelectStartOfDocument,
+                                QKeySequence::SelectEndOfDocument,
+                                QKeySequence::MoveToNextWord,
+                                QKeySequence::MoveToPreviousWord};
+
+constexpr memory::Key kDelete{.name = memory::KeyName::Delete};
+
+}  // namespace
+
+FieldView::FieldView(Screen& screen, toolkit::EditableText& model, QWidget& parent)
+    : QLineEdit(&parent), View(screen, model) {
+  setMaxLength(std::numeric_limits<int>::max());
+  setAlignment(kAlignments.at(static_cast<std::size_t>(model.layout().align)) | Qt::AlignVCenter);
+  setAcceptDrops(false);
+  connect(this, &QLineEdit::selectionChanged, this, [this] { takeSelection(); });
+  connect(this, &QLineEdit::cursorPositionChanged, this, [this] { takeSelection(); });
+  // An assistive program may write the text past all keys: what the field says is put back.
+  connect(this, &QLineEdit::textEdited, this, [this] {
+    if (byPerson()) onScreen().showAgain(*this);
+  });
+}
+
+QPalette FieldView::paletteFor(std::uint32_t back, std::uint32_t fore) const {
+  return fieldColours(QApplication::palette(), back, fore);
+}
+
+void FieldView::showContent() {
+  const QString text = shown(field().Text());
+  if (this->text() != text) setText(text);
+  if (field().hasFocus()) {
+    showSelection();
+  } else {
+    before_.clear();
+    if (hasSelectedText()) deselect();
+  }
+}
+
+void FieldView::showSelection() {
+  const QString text = this->text();
+  const int start = unitsBefore(text, field().SelStart());
+  const int length = unitsBefore(text, field().SelStart() + field().SelLength()) - start;
+  if (length == 0) {
+    if (hasSelectedText() || cursorPosition() != start) setCursorPosition(start);
+    if (hasSelectedText()) deselect();
+  } else if (selectionStart() != start || selectionLength() != length) {
+    setSelection(start, length);
+  }
+}
+
+void FieldView::takeSelection() {
+  if (!byPerson() || !field().hasFocus()) return;
+  const QString text = this->text();
+  const int from = hasSelectedText() ? selectionStart() : cursorPosition();
+  const int to = from + (hasSelectedText() ? static_cast<int>(selectionLength()) : 0);
+  const std::int32_t start = charactersBefore(text, from);
+  const std::int32_t length = charactersBefore(text, to) - start;
+  if (field().SelStart() == start && field().SelLength() == length) return;
+  onScreen().act(*subject(), "KeyPress", [&](memory::Hands& hands) { hands.caret(start, length); });
+}
+
+template <class Do>
+void FieldView::edit(Do act) {
+  if (!byPerson()) return;
+  const QString before = shown(field().Text());
+  act();
+  if (subject() != nullptr && field().hasFocus() && shown(field().Text()) != before) before_.push_back(before);
+}
+
+void FieldView::paste(const QString& text) {
+  edit([&] {
+    onScreen().act(*subject(), "KeyPress", [&](memory::Hands& hands) {
+      onScreen().reach(*subject());
+      hands.paste(utf8(text));
+    });
+  });
+}
+
+void FieldView::pasteByHand() { paste(QApplication::clipboard()->text()); }
+
+void FieldView::cutByHand() {
+  if (!byPerson() || !hasSelectedText()) return;
+  copy();
+  edit([&] { onScreen().press(*subject(), std::array{kDelete}); });
+}
+
+void FieldView::undoByHand() {
+  if (!byPerson() || before_.empty()) return;
+  const QString text = before_.back();
+  before_.pop_back();
+  onScreen().act(*subject(), "Change", [&](memory::Hands&) {
+    field().Text(utf8(text));
+    field().SelStart(charactersBefore(text, text.size()));
+  });
+}
+
+bool FieldView::event(QEvent* event) {
+  if (event->type() == QEvent::KeyPress) {
+    auto& key = static_cast<QKeyEvent&>(*event);
+    if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) {
+      keyPressEvent(&key);
+      return true;
+    }
+  }
+  return QLineEdit::event(event);
+}
+
+bool FieldView::deleteWord(const QKeyEvent& event) {
+  const bool back = event.matches(QKeySequence::DeleteStartOfWord);
+  if (!back && !event.matches(QKeySequence::DeleteEndOfWord)) return false;
+  if (!hasSelectedText()) back ? cursorWordBackward(true) : cursorWordForward(true);
+  if (hasSelectedText()) edit([&] { onScreen().press(*subject(), std::array{kDelete}); });
+  return true;
+}
+
+void FieldView::keyPressEvent(QKeyEvent* event) {
+  if (!byPerson()) return;
+  event->accept();
+  if (event->matches(QKeySequence::Paste)) return pasteByHand();
+  if (event->matches(QKeySequence::Cut)) return cutByHand();
+  if (event->matches(QKeySequence::Undo)) return undoByHand();
+  if (std::ranges::any_of(kSelecting, [&](auto selecting) { return event->matches(selecting); })) {
+    return QLineEdit::keyPressEvent(event);
+  }
+  if (deleteWord(*event)) return;
+  bool taken = false;
+  edit([&] { taken = press(*event); });
+  if (!taken) event->ignore();
+}
+
+void FieldView::inputMethodEvent(QInputMethodEvent* event) {
+  if (!byPerson()) return;
+  if (!event->preeditString().isEmpty() && hasSelectedText()) {
+    edit([&] { onScreen().press(*subject(), std::array{kDelete}); });
+  }
+  QInputMethodEvent composing(event->preeditString(), event->attributes());
+  QLineEdit::inputMethodEvent(&composing);
+  std::vector<memory::Key> keys;
+  const auto characters = event->commitString().toUcs4();
+  keys.reserve(static_cast<std::size_t>(characters.size()));
+  for (const char32_t character : characters) keys.push_back({.character = character});
+  if (!keys.empty() && subject() != nullptr) edit([&] { onScreen().press(*subject(), keys); });
+  event->accept();
+}
+
+void FieldView::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::MiddleButton) return QLineEdit::mouseReleaseEvent(event);
+  if (byPerson() && QApplication::clipboard()->supportsSelection()) {
+    paste(QApplication::clipboard()->text(QClipboard::Selection));
+  }
+}
+
+void FieldView::contextMenuEvent(QContextMenuEvent* event) {
+  if (!byPerson()) return;
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  const auto add = [&](const char* caption, bool enabled, auto act) {
+    menu->addAction(QString::fromUtf8(caption), this, act)->setEnabled(enabled);
+  };
+  add("Annulla digitazione", !before_.empty(), [this] { undoByHand(); });
+  menu->addSeparator();
+  add("Taglia", hasSelectedText(), [this] { cutByHand(); });
+  add("Copia", hasSelectedText(), [this] { copy(); });
+  add("Incolla", !QApplication::clipboard()->text().isEmpty(), [this] { pasteByHand(); });
+  menu->addSeparator();
+  add("Seleziona tutto", !text().isEmpty(), [this] { selectAll(); });
+  menu->popup(event->globalPos());
+}
+
+void FieldView::focusInEvent(QFocusEvent* event) {
+  // For any other reason Qt selects the text of itself, which is for the panel to do.
+  QFocusEvent plain(QEvent::FocusIn,
+                    event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason
+                        ? event->reason()
+                        : Qt::OtherFocusReason);
+  QLineEdit::focusInEvent(&plain);
+}
+
+void FieldView::focusOutEvent(QFocusEvent* event) {
+  QFocusEvent plain(QEvent::FocusOut, Qt::PopupFocusReason);  // for others Qt lets go of the selection of itself
+  QLineEdit::focusOutEvent(event->reason() == Qt::ActiveWindowFocusReason ? event : &plain);
+}
+
+}  // namespace qvn::qt

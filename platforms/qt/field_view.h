@@ -1,0 +1,47 @@
+// A text box or a date field on the screen.
+#pragma once
+
+#include <QLineEdit>
+#include <vector>
+
+#include "platforms/qt/view.h"
+
+namespace qvn::qt {
+
+/// Every way of changing a text by hand, the keys, a paste, a cut, an undo, an input method, goes through the
+/// operator's hands, and so past the field's KeyPress.
+class FieldView final : public QLineEdit, public View {
+ public:
+  FieldView(Screen& screen, toolkit::EditableText& model, QWidget& parent);
+
+  QWidget& widget() override { return *this; }
+  void pasteByHand();
+  void cutByHand();
+  /// Writes the text as it was before the last change by hand since the field has the focus.
+  void undoByHand();
+
+ protected:
+  bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+
+ private:
+  void showContent() override;
+  QPalette paletteFor(std::uint32_t back, std::uint32_t fore) const override;
+  toolkit::EditableText& field() const { return static_cast<toolkit::EditableText&>(*subject()); }
+  void showSelection();
+  void takeSelection();
+  /// Does what changes the text, and keeps what was there before.
+  template <class Do>
+  void edit(Do act);
+  void paste(const QString& text);
+  bool deleteWord(const QKeyEvent& event);
+
+  std::vector<QString> before_;
+};
+
+}  // namespace qvn::qt

@@ -1,0 +1,117 @@
+#include "platforms/qt/table_views.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <algorithm>
+
+#include "platforms/qt/colours.h"
+#include "platforms/qt/screen.h"
+#include "platforms/qt/twips.h"
+
+namespace qvn::qt {
+
+namespace {
+
+bool isTab(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress) return false;
+  const int key = static_cast<const QKeyEvent&>(event).key();
+  return key == Qt::Key_Tab || key == Qt::Key_Backtab;
+}
+
+}  // namespace
+
+ListWidget::ListWidget(Screen& screen, memory::ListView& model, QWidget& parent)
+    : QTreeView(&parent), View(screen, model), rows_(*new TableRows<toolkit::ListView>(model, this)) {
+  setRootIsDecorated(false);
+  setItemsExpandable(false);
+  setUniformRowHeights(true);
+  setAllColumnsShowFocus(true);
+  setEditTriggers(NoEditTriggers);
+  setModel(&rows_);
+  header()->setSectionsClickable(true);
+  header()->setSortIndicatorShown(true);
+  header()->setStretchLastSection(false);
+  connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& now) {
+    if (byPerson() && !gainingFocus_ && now.isValid() && now.row() != list().selected())
+      act(Act::row(now.row()), "KeyPress");
+  });
+  connect(this, &QTreeView::doubleClicked, this,
+          [this](const QModelIndex& on) { act(Act::doubleClick(on.row()), "DblClick"); });
+  connect(header(), &QHeaderView::sectionClicked, this,
+          [this](int section) { act(Act::column(section + 1), "ColumnClick"); });
+}
+
+void ListWidget::act(const Act& act, const char* event) {
+  if (!byPerson()) return;
+  onScreen().act(*subject(), event, [&](memory::Hands& hands) { hands.actAtList(list(), act); });
+  onScreen().showAgain(*this);
+}
+
+QPalette ListWidget::paletteFor(std::uint32_t back, std::uint32_t fore) const {
+  return fieldColours(QApplication::palette(), back, fore);
+}
+
+void ListWidget::showContent() {
+  if (shownEdition_ != list().edition()) {
+    shownEdition_ = list().edition();
+    rows_.renew();
+    for (int column = 0; column < list().columnCount(); ++column) {
+      header()->resizeSection(column, pixels(list().columnWidth(column), logicalDpiX()));
+    }
+    header()->setSortIndicator(list().SortKey(), list().SortOrder() == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+  }
+  const int selected = list().selected();
+  const QModelIndex current = selectionModel()->currentIndex();
+  if (selected < 0) {
+    if (current.isValid()) selectionModel()->clear();
+  } else if (!current.isValid() || current.row() != selected) {
+    setCurrentIndex(rows_.index(selected, 0));
+  }
+}
+
+bool ListWidget::event(QEvent* event) {
+  return isTab(*event) ? press(static_cast<QKeyEvent&>(*event)) : QTreeView::event(event);
+}
+
+void ListWidget::keyPressEvent(QKeyEvent* event) {
+  const bool byPage = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
+  if (byPage) return QTreeView::keyPressEvent(event);
+  if (!press(*event)) event->ignore();
+}
+
+void ListWidget::focusInEvent(QFocusEvent* event) {
+  gainingFocus_ = true;
+  QTreeView::focusInEvent(event);
+  gainingFocus_ = false;
+  if (byPerson()) onScreen().showAgain(*this);
+}
+
+GridWidget::GridWidget(Screen& screen, toolkit::DataGrid& model, QWidget& parent)
+    : QTableView(&parent), View(screen, model), rows_(*new TableRows<toolkit::DataGrid>(model, this)) {
+  setEditTriggers(NoEditTriggers);
+  setModel(&rows_);
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
+  horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
+  horizontalHeader()->setStretchLastSection(true);
+}
+
+QPalette GridWidget::paletteFor(std::uint32_t back, std::uint32_t fore) const {
+  return fieldColours(QApplication::palette(), back, fore);
+}
+
+void GridWidget::showContent() {
+  rows_.renew();
+  resizeColumnsToContents();
+}
+
+bool GridWidget::event(QEvent* event) {
+  return isTab(*event) ? press(static_cast<QKeyEvent&>(*event)) : QTableView::event(event);
+}
+
+void GridWidget::keyPressEvent(QKeyEvent* event) {
+  const bool moves = event->key() >= Qt::Key_Home && event->key() <= Qt::Key_PageDown;
+  if (moves || event->matches(QKeySequence::Copy)) return QTableView::keyPressEvent(event);
+  if (!press(*event)) event->ignore();
+}
+
+}  // namespace qvn::qt

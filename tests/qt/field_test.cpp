@@ -1,0 +1,172 @@
+// A field under a person's hands.
+#include <QClipboard>
+#include <QInputMethodEvent>
+
+#include "tests/qt/on_screen.h"
+
+namespace qvn::test {
+namespace {
+
+class QtField : public OnScreen {
+ public:
+  QtField() { focus(box()); }
+  void digitsOnly() {
+    box().KeyPress = [this](std::int16_t& code) {
+      if (code >= 32 && (code < '0' || code > '9')) {
+        code = 0;
+        platform.beep();
+      }
+    };
+  }
+  void select(std::int32_t start, std::int32_t length) {
+    box().SelStart(start);
+    box().SelLength(length);
+    QApplication::processEvents();
+  }
+  void paste(const QString& text) {
+    QApplication::clipboard()->setText(text);
+    press(Qt::Key_V, "\x16", Qt::ControlModifier);
+  }
+};
+
+TEST_F(QtField, TakesTheKeysThatItsFilterLeaves) {
+  digitsOnly();
+  write("1a2");
+  EXPECT_EQ(box().Text(), "12");
+  EXPECT_EQ(platform.beeps(), 1);
+  expectAgreement();
+}
+
+TEST_F(QtField, EditsInTheMiddle) {
+  write("12345");
+  press(Qt::Key_Left);
+  press(Qt::Key_Left);
+  press(Qt::Key_Backspace);
+  press(Qt::Key_Home);
+  press(Qt::Key_Delete);
+  write("9");
+  EXPECT_EQ(box().Text(), "9245");
+  expectAgreement();
+}
+
+TEST_F(QtField, ShowsWhatAHandlerMakesOfTheText) {
+  box().Change = [this] {
+    if (box().Text() == "ab") box().Text("scritto");
+  };
+  write("ab");
+  EXPECT_EQ(line().text(), "scritto");
+  expectAgreement();
+}
+
+TEST_F(QtField, SelectsByKeysAndReplacesWhatIsSelected) {
+  write("12345");
+  press(Qt::Key_Left, {}, Qt::ShiftModifier);
+  press(Qt::Key_Left, {}, Qt::ShiftModifier);
+  EXPECT_EQ(box().SelStart(), 3);
+  EXPECT_EQ(box().SelLength(), 2);
+  write("0");
+  EXPECT_EQ(box().Text(), "1230");
+  press(Qt::Key_A, "\x01", Qt::ControlModifier);
+  EXPECT_EQ(box().SelLength(), 4);
+  press(Qt::Key_Backspace, {}, Qt::ControlModifier);
+  EXPECT_EQ(box().Text(), "");
+  expectAgreement();
+}
+
+TEST_F(QtField, CountsCharactersAndNotUnits) {
+  box().Text("a😀b");
+  select(1, 1);
+  EXPECT_EQ(line().selectedText(), QString::fromUtf8("😀"));
+  press(Qt::Key_End, {}, Qt::ShiftModifier);
+  EXPECT_EQ(box().SelStart() + box().SelLength(), 3);
+  expectAgreement();
+}
+
+TEST_F(QtField, APasteStopsAtTheFirstCharacterThatIsRefused) {
+  digitsOnly();
+  paste("12-34");
+  EXPECT_EQ(box().Text(), "12");
+  expectAgreement();
+}
+
+TEST_F(QtField, CutsAndUndoes) {
+  write("12345");
+  select(1, 3);
+  press(Qt::Key_X, "\x18", Qt::ControlModifier);
+  EXPECT_EQ(box().Text(), "15");
+  EXPECT_EQ(QApplication::clipboard()->text(), "234");
+  int changes = 0;
+  box().Change = [&] { ++changes; };
+  press(Qt::Key_Z, "\x1a", Qt::ControlModifier);
+  EXPECT_EQ(box().Text(), "12345");
+  press(Qt::Key_Z, "\x1a", Qt::ControlModifier);
+  EXPECT_EQ(box().Text(), "1234");
+  EXPECT_EQ(changes, 2);
+  expectAgreement();
+}
+
+TEST_F(QtField, UndoesNothingThatWasWrittenBeforeItHadTheFocus) {
+  write("1");
+  focus(box("B"));
+  focus(box());
+  press(Qt::Key_Z, "\x1a", Qt::ControlModifier);
+  EXPECT_EQ(box().Text(), "1");
+}
+
+TEST_F(QtField, WhatAnInputMethodComposesGoesPastTheFilter) {
+  QInputMethodEvent composing("`", {});
+  QApplication::sendEvent(&line(), &composing);
+  EXPECT_EQ(box().Text(), "");
+  QInputMethodEvent composed;
+  composed.setCommitString("è");
+  QApplication::sendEvent(&line(), &composed);
+  EXPECT_EQ(box().Text(), "è");
+  digitsOnly();
+  QInputMethodEvent refused;
+  refused.setCommitString("ù1");
+  QApplication::sendEvent(&line(), &refused);
+  EXPECT_EQ(box().Text(), "è1");
+  expectAgreement();
+}
+
+TEST_F(QtField, TheMouseSetsTheCaretAndSelects) {
+  write("12345");
+  clickAt(line(), QPointF(1, line().height() / 2.0));
+  EXPECT_EQ(box().SelStart(), 0);
+  QMouseEvent twice(QEvent::MouseButtonDblClick, QPointF(8, line().height() / 2.0), QPointF(), Qt::LeftButton,
+                    Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&line(), &twice);
+  EXPECT_EQ(box().SelLength(), 5);
+  expectAgreement();
+}
+
+TEST_F(QtField, WhatComesPastTheHandsIsPutBack) {
+  write("12");
+  line().insert("34");
+  QApplication::processEvents();
+  EXPECT_EQ(box().Text(), "12");
+  expectAgreement();
+}
+
+TEST_F(QtField, AFailingHandlerGoesToTheContainerAndTheKeysGoOn) {
+  box().Change = [this] {
+    if (box().Text() == "1") throw Failure(FailureKind::Overflow, "troppo");
+    if (box().Text() == "12") throw std::runtime_error("altro");
+    if (box().Text() == "123") throw 5;
+  };
+  write("1234");
+  EXPECT_EQ(box().Text(), "1234");
+  EXPECT_THAT(reported(), testing::ElementsAre("A Change: troppo", "A KeyPress: altro",
+                                               "A KeyPress: a handler has failed with what tells no reason"));
+  expectAgreement();
+}
+
+TEST_F(QtField, ADateTakesNoTyping) {
+  focus(panel->date("Date"));
+  write("1");
+  EXPECT_EQ(panel->date("Date").Text(), "##/##/####");
+  expectAgreement();
+}
+
+}  // namespace
+}  // namespace qvn::test

@@ -1,0 +1,140 @@
+// A modal form before a person.
+#include <QAbstractButton>
+#include <QDialog>
+#include <QHeaderView>
+#include <QTimer>
+#include <QTreeView>
+#include <array>
+#include <functional>
+
+#include "qvn/toolkit/list_view.h"
+#include "tests/qt/on_screen.h"
+
+namespace qvn::test {
+namespace {
+
+constexpr std::array<toolkit::WidgetLayout, 3> kWidgets{{
+    {.name = "Rows", .kind = toolkit::WidgetKind::ListView, .tabIndex = 0, .place = {72, 72, 4548, 3036}},
+    {.name = "OK",
+     .kind = toolkit::WidgetKind::CommandButton,
+     .tabIndex = 1,
+     .place = {4680, 48, 1188, 600},
+     .caption = "OK",
+     .defaultButton = true},
+    {.name = "Cancel",
+     .kind = toolkit::WidgetKind::CommandButton,
+     .tabIndex = 2,
+     .place = {4680, 720, 1188, 600},
+     .caption = "Annulla",
+     .cancelButton = true},
+}};
+constexpr toolkit::FormLayout kForm{.caption = "Scelta",
+                                    .inside = {.name = "Pick", .width = 5940, .height = 3180, .widgets = kWidgets}};
+
+class QtForm : public OnScreen {
+ public:
+  QtForm() {
+    platform.formsWait(true);
+    form->Load = [this] {
+      rows().addColumn("Codice", 900);
+      rows().addColumn("Nome", 2000);
+      for (const auto& row : {std::array<std::string_view, 2>{"b", "due"}, {"a", "uno"}, {"c", "tre"}})
+        rows().addRow(row);
+      form->surface().button("OK").Click = [this] {
+        chosen = rows().selected() < 0 ? "-" : rows().text(rows().selected(), 0);
+        form->hide();
+      };
+      form->surface().button("Cancel").Click = [this] { form->unload(); };
+      rows().DblClick = [this] {
+        chosen = "double " + rows().text(rows().selected(), 0);
+        form->hide();
+      };
+      rows().ColumnClick = [this](std::int16_t column) { rows().SortKey(static_cast<std::int16_t>(column - 1)); };
+    };
+  }
+
+  toolkit::ListView& rows() { return form->surface().listView("Rows"); }
+  QTreeView& tree() {
+    return dynamic_cast<QTreeView&>(*platform.widgetOf(static_cast<const toolkit::Widget&>(rows())));
+  }
+  QDialog& window() { return dynamic_cast<QDialog&>(*tree().window()); }
+
+  /// Shows the form, and does this as soon as it waits.
+  void showAnd(std::function<void()> act) {
+    QTimer::singleShot(0, [act = std::move(act)] { act(); });
+    form->showModal();
+  }
+
+  std::string chosen;
+  std::unique_ptr<toolkit::Form> form = platform.makeForm(kForm, container);
+};
+
+TEST_F(QtForm, WaitsForTheDefaultKey) {
+  focus(box());
+  showAnd([this] {
+    EXPECT_TRUE(window().isVisible());
+    EXPECT_EQ(window().windowTitle(), "Scelta");
+    EXPECT_TRUE(window().isModal());
+    QApplication::setActiveWindow(&window());
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    EXPECT_THAT(disagreements(platform, form->surface()), IsEmpty());
+    press(Qt::Key_Return, "\r");
+  });
+  EXPECT_EQ(chosen, "b");
+  EXPECT_TRUE(box().hasFocus());
+}
+
+TEST_F(QtForm, TheCancelKeyUnloadsIt) {
+  showAnd([this] {
+    QApplication::setActiveWindow(&window());
+    press(Qt::Key_Escape, "\x1b");
+  });
+  EXPECT_FALSE(form->loaded());
+}
+
+TEST_F(QtForm, ARowIsChosenByTheMouse) {
+  showAnd([this] {
+    tree().setCurrentIndex(tree().model()->index(2, 0));
+    EXPECT_EQ(rows().selected(), 2);
+    emit tree().doubleClicked(tree().model()->index(0, 0));
+  });
+  EXPECT_EQ(chosen, "double a");
+}
+
+TEST_F(QtForm, AColumnHeadSortsAndTheSelectedRowStaysSelected) {
+  showAnd([this] {
+    tree().setCurrentIndex(tree().model()->index(0, 0));
+    emit tree().header()->sectionClicked(1);
+    EXPECT_EQ(rows().text(0, 1), "due");
+    EXPECT_EQ(rows().selected(), 2);
+    EXPECT_THAT(disagreements(platform, form->surface()), testing::Each(testing::HasSubstr("focus")));
+    click(*platform.widgetOf(static_cast<const toolkit::Widget&>(form->surface().button("OK"))));
+  });
+  EXPECT_EQ(chosen, "a");
+}
+
+TEST_F(QtForm, ClosingTheWindowUnloadsIt) {
+  showAnd([this] { window().close(); });
+  EXPECT_FALSE(form->loaded());
+}
+
+TEST_F(QtForm, MayBeDestroyedWhileAPersonIsAtIt) {
+  showAnd([this] { form.reset(); });
+  EXPECT_EQ(form, nullptr);
+}
+
+TEST_F(QtForm, ActsLaidDownAreDoneWithoutWaiting) {
+  platform.hands().layDown("Pick", {Act::row(1), Act::key("{Enter}")});
+  form->showModal();
+  EXPECT_EQ(chosen, "b");
+}
+
+TEST_F(QtForm, OffscreenNobodyIsWaitedFor) {
+  platform.formsWait(false);
+  form->showModal();
+  EXPECT_FALSE(form->loaded());
+}
+
+}  // namespace
+}  // namespace qvn::test

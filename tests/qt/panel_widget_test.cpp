@@ -1,0 +1,140 @@
+// A panel in a host's window.
+#include <QAbstractButton>
+#include <QComboBox>
+
+#include "tests/qt/on_screen.h"
+
+namespace qvn::test {
+namespace {
+
+class QtPanel : public OnScreen {};
+
+TEST_F(QtPanel, IsAsLargeAsLaidOut) {
+  const QWidget& widget = platform.widgetOf(*panel);
+  EXPECT_EQ(widget.width(), 7200 * widget.logicalDpiX() / 1440);
+  EXPECT_EQ(widget.height(), 3600 * widget.logicalDpiY() / 1440);
+  expectAgreement();
+}
+
+TEST_F(QtPanel, ShowsWhatTheProgramWrites) {
+  box().Text("scritto");
+  panel->label("Label").Caption("Altro:");
+  panel->frame("Outer").Caption("Fuori");
+  list().ListIndex(2);
+  list().AddItem("Nuovo");
+  list().RemoveItem(0);
+  check().Value(1);
+  box("B").Enabled(false);
+  box("Hidden").Visible(true);
+  box("Off").BackColor(0xFFFF00);
+  box("Free").place({0, 0, 1440, 300});
+  expectAgreement();
+  EXPECT_EQ(shown("Off").palette().color(QPalette::Base), QColor(0, 255, 255));
+  EXPECT_EQ(shown("Free").width(), shown("Free").logicalDpiX());
+}
+
+TEST_F(QtPanel, TabAndShiftTabFollowTheTabOrder) {
+  focus(box());
+  press(Qt::Key_Tab, "\t");
+  EXPECT_TRUE(box("B").hasFocus());
+  press(Qt::Key_Tab, "\t");
+  EXPECT_TRUE(list().hasFocus());
+  press(Qt::Key_Tab, "\t");
+  EXPECT_TRUE(check().hasFocus());
+  press(Qt::Key_Backtab, {}, Qt::ShiftModifier);
+  EXPECT_TRUE(list().hasFocus());
+  expectAgreement();
+}
+
+TEST_F(QtPanel, TheMouseMovesTheFocusAndPushes) {
+  std::vector<std::string> heard;
+  box().LostFocus = [&] { heard.emplace_back("lost A"); };
+  box("B").GotFocus = [&] { heard.emplace_back("got B"); };
+  panel->button("Button").Click = [&] { heard.emplace_back("push"); };
+  check().Click = [&] { heard.emplace_back("check"); };
+  focus(box());
+  click(shown("B"));
+  click(shown("Button"));
+  EXPECT_TRUE(panel->button("Button").hasFocus());
+  clickAt(shown("Check"), QPointF(6, shown("Check").height() / 2.0));
+  EXPECT_THAT(heard, ElementsAre("lost A", "got B", "push", "check"));
+  EXPECT_EQ(check().Value(), 1);
+  press(Qt::Key_Space, " ");
+  EXPECT_EQ(check().Value(), 0);
+  expectAgreement();
+}
+
+TEST_F(QtPanel, AListIsChosenFromByKeysAndByItsPopup) {
+  std::vector<std::string> heard;
+  list().Click = [&] { heard.push_back(list().Text()); };
+  focus(list());
+  press(Qt::Key_Down);
+  write("d");
+  emit dynamic_cast<QComboBox&>(shown("List")).activated(0);
+  EXPECT_THAT(heard, ElementsAre("Uno", "Due", "Uno"));
+  expectAgreement();
+}
+
+TEST_F(QtPanel, TheFocusLeavesForAFieldOfTheHostAndComesBack) {
+  std::vector<std::string> heard;
+  box().LostFocus = [&] { heard.emplace_back("lost"); };
+  box().GotFocus = [&] { heard.emplace_back("got"); };
+  focus(box());
+  hostField->setFocus();
+  EXPECT_EQ(platform.focused(), nullptr);
+  EXPECT_TRUE(hostField->hasFocus());
+  line().setFocus();
+  EXPECT_TRUE(box().hasFocus());
+  EXPECT_THAT(heard, ElementsAre("got", "lost", "got"));
+  expectAgreement();
+}
+
+TEST_F(QtPanel, AFieldThatIsSwitchedOffLosesTheFocusToNobody) {
+  focus(box());
+  box().Enabled(false);
+  expectAgreement();
+  EXPECT_EQ(platform.focused(), nullptr);
+  EXPECT_EQ(QApplication::focusWidget(), nullptr);
+}
+
+TEST_F(QtPanel, MayBeDroppedByTheKeyThatItIsTyping) {
+  focus(box());
+  box().Change = [this] { panel.reset(); };
+  write("1");
+  EXPECT_EQ(panel, nullptr);
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(window->findChildren<QWidget*>("panel").size(), 0);
+}
+
+TEST_F(QtPanel, StandsOnWithoutTheWindowThatItWasPlacedIn) {
+  box().Text("prima");
+  window.reset();
+  EXPECT_EQ(platform.widgetOf(static_cast<const toolkit::Widget&>(box())), nullptr);
+  box().Text("dopo");
+  QApplication::processEvents();
+  window = std::make_unique<QWidget>();
+  platform.widgetOf(*panel).setParent(window.get());
+  window->show();
+  EXPECT_EQ(line().text(), "dopo");
+}
+
+TEST_F(QtPanel, HidesAndShowsAsThePanelSays) {
+  panel->Visible(false);
+  QApplication::processEvents();
+  EXPECT_TRUE(platform.widgetOf(*panel).isHidden());
+  panel->Visible(true);
+  panel->Enabled(false);
+  QApplication::processEvents();
+  EXPECT_TRUE(platform.widgetOf(*panel).isVisible());
+  EXPECT_FALSE(platform.widgetOf(*panel).isEnabled());
+}
+
+TEST_F(QtPanel, EveryFieldHasANameToBeSpoken) {
+  for (toolkit::Widget* widget : panel->widgets()) {
+    EXPECT_FALSE(std::as_const(platform).widgetOf(*widget)->accessibleName().isEmpty()) << widget->Name();
+  }
+  EXPECT_EQ(shown("Button").accessibleName(), "Compagnie");
+}
+
+}  // namespace
+}  // namespace qvn::test
