@@ -1,7 +1,8 @@
-// A date field in memory. It shows what programs write; digits typed over its mask leave it as it is.
+// A date field in memory, typed over its mask.
 #pragma once
 
 #include "platforms/memory/editable.h"
+#include "qvn/fields/date_mask.h"
 
 namespace qvn::memory {
 
@@ -15,6 +16,16 @@ class DateControl final : public Editable<toolkit::DateControl> {
 
   Variant Value() const override;
   void Value(const Variant& value) override;
+
+  /// Lets a hand edit the date. True if it shows another text now, for which Change is still to be raised.
+  template <class Edit>
+  bool edit(Edit&& byHand) {
+    fields::DateEntry entry{.text = Text(), .start = SelStart(), .length = SelLength()};
+    byHand(entry);
+    const bool changed = buffer().set(entry.text);
+    buffer().select(entry.start, entry.length);
+    return changed;
+  }
 
  private:
   [[noreturn]] void refuse(std::string_view what) const;

@@ -15,6 +15,7 @@
 #include "platforms/memory/text_box.h"
 #include "platforms/memory/usable.h"
 #include "platforms/memory/utf8.h"
+#include "qvn/fields/date_mask.h"
 #include "qvn/shared/failure.h"
 
 namespace qvn::memory {
@@ -51,9 +52,37 @@ std::optional<std::int32_t> rowByKey(KeyName key, std::int32_t current, std::int
   }
 }
 
-TextBuffer& bufferOf(toolkit::EditableText& field) {
-  if (field.Kind() == toolkit::WidgetKind::TextBox) return static_cast<TextBox&>(field).buffer();
-  return static_cast<DateControl&>(field).buffer();
+/// Does a key without a character at a text that is edited. True if the text is another now.
+template <class Entry>
+bool pressAt(Entry& entry, KeyName key) {
+  switch (key) {
+    case KeyName::Left:
+      entry.left();
+      return false;
+    case KeyName::Right:
+      entry.right();
+      return false;
+    case KeyName::Home:
+      entry.home();
+      return false;
+    case KeyName::End:
+      entry.end();
+      return false;
+    case KeyName::Delete:
+      return entry.erase();
+    default:
+      return false;
+  }
+}
+
+/// Lets a hand edit the field's text. True if it shows another now, for which Change is still to be raised.
+template <class Edit>
+bool edit(toolkit::EditableText& field, Edit byHand) {
+  const bool isDate = field.Kind() == toolkit::WidgetKind::DateControl;
+  const bool changed =
+      isDate ? static_cast<DateControl&>(field).edit(byHand) : byHand(static_cast<TextBox&>(field).buffer());
+  surfaceOf(field).tell(field);
+  return changed;
 }
 
 }  // namespace
@@ -89,13 +118,18 @@ void Hands::type(std::string_view keys) {
 
 void Hands::caret(std::int32_t start, std::int32_t length) {
   toolkit::EditableText& field = heldField();
-  bufferOf(field).select(start, length);
-  surfaceOf(field).tell(field);
+  field.SelStart(start);
+  field.SelLength(length);
 }
 
 void Hands::paste(std::string_view text) {
   toolkit::EditableText& field = heldField();
   const Turn turn(platform_.turns());
+  const auto date = field.Kind() == toolkit::WidgetKind::DateControl ? fields::digitsOfWholeDate(text) : std::nullopt;
+  if (date) {
+    text = *date;
+    caret(0, static_cast<std::int32_t>(fields::kBlankDate.size()));
+  }
   while (!text.empty() && platform_.focused() == &field) {
     if (!typeInto(field, utf8::takeFirst(text))) return;
   }
@@ -135,33 +169,9 @@ bool Hands::pressIn(toolkit::Widget& widget, Key key) {
 }
 
 bool Hands::pressInField(toolkit::EditableText& field, Key key) {
-  TextBuffer& buffer = bufferOf(field);
-  switch (key.name) {
-    case KeyName::Left:
-      buffer.left();
-      surfaceOf(field).tell(field);
-      return true;
-    case KeyName::Right:
-      buffer.right();
-      surfaceOf(field).tell(field);
-      return true;
-    case KeyName::Home:
-      buffer.home();
-      surfaceOf(field).tell(field);
-      return true;
-    case KeyName::End:
-      buffer.end();
-      surfaceOf(field).tell(field);
-      return true;
-    case KeyName::Delete:
-      if (field.Kind() == toolkit::WidgetKind::TextBox && buffer.erase()) {
-        surfaceOf(field).tell(field);
-        byHand(field, "Change", [&] { surfaceOf(field).raise(field.Change); });
-      }
-      return true;
-    default:
-      return key.character == 0 || typeInto(field, key.character) == key.character;
-  }
+  if (key.character != 0) return typeInto(field, key.character) == key.character;
+  changeIf(field, edit(field, [key](auto& entry) { return pressAt(entry, key.name); }));
+  return true;
 }
 
 bool Hands::pressInListView(ListView& list, Key key) {
@@ -185,20 +195,24 @@ std::optional<char32_t> Hands::keyPress(Keyed& widget, char32_t character) {
 
 std::optional<char32_t> Hands::typeInto(toolkit::EditableText& field, char32_t character) {
   const std::optional<char32_t> left = keyPress(field, character);
-  if (left && field.Kind() == toolkit::WidgetKind::TextBox) take(static_cast<TextBox&>(field), *left);
-  return left;
+  if (!left || take(field, *left)) return left;
+  platform_.beep();
+  return std::nullopt;
 }
 
-void Hands::take(TextBox& box, char32_t character) {
-  if (character == kBackspace) {
-    if (!box.buffer().backspace()) return;
-  } else if (isControl(character)) {
-    return;
-  } else {
-    box.buffer().insert(character);
-  }
-  surfaceOf(box).tell(box);
-  byHand(box, "Change", [&] { surfaceOf(box).raise(box.Change); });
+bool Hands::take(toolkit::EditableText& field, char32_t character) {
+  if (isControl(character) && character != kBackspace) return true;
+  bool taken = true;
+  changeIf(field, edit(field, [&](auto& entry) {
+             if (character == kBackspace) return entry.backspace();
+             taken = entry.type(character);
+             return taken;
+           }));
+  return taken;
+}
+
+void Hands::changeIf(toolkit::EditableText& field, bool changed) {
+  if (changed) byHand(field, "Change", [&] { surfaceOf(field).raise(field.Change); });
 }
 
 void Hands::pressInList(ComboBox& list, Key key) {

@@ -18,8 +18,6 @@ class Form;
 class ListView;
 class Platform;
 class Surface;
-class TextBox;
-class TextBuffer;
 struct Showing;
 
 class Hands final : public Operator {
@@ -69,7 +67,9 @@ class Hands final : public Operator {
   std::optional<char32_t> keyPress(Keyed& widget, char32_t character);
   /// The same, and what is left goes into the field.
   std::optional<char32_t> typeInto(toolkit::EditableText& field, char32_t character);
-  void take(TextBox& box, char32_t character);
+  /// Puts a character into the field. False if it has no place there.
+  bool take(toolkit::EditableText& field, char32_t character);
+  void changeIf(toolkit::EditableText& field, bool changed);
   /// Moves the focus to the list and picks what is found once it is there; -1 is nothing.
   template <class Find>
   void reachAndPick(ComboBox& list, Find find);

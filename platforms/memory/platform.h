@@ -17,9 +17,9 @@
 
 namespace qvn::memory {
 
-/// A toolkit whose widgets behave as an operator's screen would, in one thread and without a window. Dates show but
-/// take no typing. A form that is shown modally waits for nobody: the operator's hands do at once what was laid down
-/// for it, and close it by its frame if it still stands then.
+/// A toolkit whose widgets behave as an operator's screen would, in one thread and without a window. A form that is
+/// shown modally waits for nobody: the operator's hands do at once what was laid down for it, and close it by its frame
+/// if it still stands then.
 ///
 /// A panel may be dropped at any moment, from inside a handler of its own as well; nothing more is raised on it then.
 /// Handlers that call each other without end fail with "invalid call" before the stack is used up.
@@ -30,7 +30,7 @@ class Platform : public toolkit::Platform {
   Platform& operator=(const Platform&) = delete;
 
   std::string_view name() const override { return "memory"; }
-  toolkit::Capabilities capabilities() const override { return {.dateTyping = false, .modalForms = true}; }
+  toolkit::Capabilities capabilities() const override { return {.modalForms = true}; }
   std::unique_ptr<toolkit::Surface> makeSurface(const toolkit::PanelLayout& layout, toolkit::Container& container,
                                                 std::string name) override;
   std::unique_ptr<toolkit::Form> makeForm(const toolkit::FormLayout& layout, toolkit::Container& container) override;

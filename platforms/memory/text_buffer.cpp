@@ -33,11 +33,12 @@ void TextBuffer::replaceSelection(std::string_view by) {
   length_ = 0;
 }
 
-void TextBuffer::insert(char32_t character) {
+bool TextBuffer::type(char32_t character) {
   std::string encoded;
   utf8::append(encoded, character);
   replaceSelection(encoded);
   ++start_;
+  return true;
 }
 
 bool TextBuffer::backspace() {

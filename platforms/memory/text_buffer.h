@@ -20,8 +20,8 @@ class TextBuffer {
   /// Replaces the whole text and puts the caret at the start. False, with nothing done, if the text is there already.
   bool set(std::string_view text);
 
-  /// Puts a character in the place of the selection, and the caret behind it.
-  void insert(char32_t character);
+  /// Puts a character in the place of the selection, and the caret behind it. Always true: any has a place.
+  bool type(char32_t character);
   /// Deletes the selection, or the character before or behind the caret. False if there is nothing to delete.
   bool backspace();
   bool erase();

@@ -11,7 +11,6 @@ namespace qvn::Gest_SCHEDE {
 namespace {
 
 constexpr std::int16_t kBackspace = 8;
-constexpr std::int16_t kEnter = 13;
 constexpr std::int16_t kEscape = 27;
 
 constexpr bool isDigit(std::int16_t key) { return key >= '0' && key <= '9'; }

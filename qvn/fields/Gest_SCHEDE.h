@@ -14,6 +14,9 @@
 
 namespace qvn::Gest_SCHEDE {
 
+/// The code of the Enter key.
+inline constexpr std::int16_t kEnter = 13;
+
 /// States of ColoreFuoco.
 inline constexpr std::int16_t kAtRest = 0;
 inline constexpr std::int16_t kFocused = 1;

@@ -27,8 +27,6 @@ struct ScreenSize {
 
 /// What a platform can do beyond the plain fields of a panel.
 struct Capabilities {
-  /// Digits can be typed over the mask of a date field. Without, keys leave a date as it is.
-  bool dateTyping = false;
   /// Forms can be made and shown, and list views, grids and data controls laid out. Without, making one fails with
   /// "invalid call".
   bool modalForms = false;

@@ -123,31 +123,123 @@ TEST_P(DateControl, KeysRaiseKeyPress) {
   date().SetFocus();
   hearKeys(date());
   heard.clear();
-  hands().type("1x{Backspace}{Escape}");
-  EXPECT_THAT(heard, ElementsAre("key 49", "key 120", "key 8", "key 27"));
+  hands().type("1/{Backspace}{Escape}");
+  EXPECT_THAT(heard, ElementsAre("key 49", "key 47", "key 8", "key 27"));
 }
 
-TEST_P(DateControl, DigitsAreTypedOverTheMaskWhereThePlatformSaysSo) {
+class TypedDates : public ContractPanel {
+ protected:
+  void typeFresh(std::string_view keys) {
+    date().Value(Null{});
+    date().SetFocus();
+    hands().caret(0, 10);
+    hands().type(keys);
+  }
+};
+QVN_ON_EVERY_PLATFORM_AS(Contract, TypedDates);
+
+TEST_P(TypedDates, DigitsGoOverTheMaskAndTheSlashesStand) {
+  date().Change = [this] { heard.push_back(date().Text()); };
   date().SetFocus();
-  hands().caret(0, 0);
+  heard.clear();
+  hands().type("15112");
+  EXPECT_THAT(heard, ElementsAre("1#/##/####", "15/##/####", "15/1#/####", "15/11/####", "15/11/2###"));
+  EXPECT_EQ(selection(date()), sel(7, 0));
+  hands().type("026");
+  EXPECT_EQ(date().Value(), text("15/11/2026"));
+}
+
+TEST_P(TypedDates, ADigitTakesThePlaceOfTheSelection) {
+  typeFresh("15112026");
+  hands().caret(0, 10);
+  hands().type("3");
+  EXPECT_EQ(date().Text(), "3#/##/####");
+  EXPECT_EQ(selection(date()), sel(1, 0));
+}
+
+TEST_P(TypedDates, ASlashEndsADayOrMonthOfOneDigit) {
+  typeFresh("5/3/2026");
+  EXPECT_EQ(date().Text(), "05/03/2026");
+}
+
+TEST_P(TypedDates, BackspaceAndDeleteLeaveThePlaceholder) {
+  typeFresh("15112026{Backspace}");
+  EXPECT_EQ(date().Text(), "15/11/202#");
+  hands().type("{Home}{Delete}");
+  EXPECT_EQ(date().Text(), "#5/11/202#");
+  hands().caret(0, 10);
+  hands().type("{Delete}");
+  EXPECT_TRUE(isNull(date().Value()));
+}
+
+TEST_P(TypedDates, ArrowsHomeAndEndMoveTheCaretPastTheSlashes) {
+  typeFresh("1511");
+  EXPECT_EQ(selection(date()), sel(6, 0));
+  hands().type("{Left}");
+  EXPECT_EQ(selection(date()), sel(4, 0));
+  hands().type("{Home}");
+  EXPECT_EQ(selection(date()), sel(0, 0));
+  hands().type("{Right}{Right}");
+  EXPECT_EQ(selection(date()), sel(3, 0));
+  hands().type("{End}");
+  EXPECT_EQ(selection(date()), sel(6, 0));
+}
+
+TEST_P(TypedDates, WhatTheMaskRefusesBeepsAndChangesNothing) {
+  typeFresh("15112026");
   date().Change = hears("change");
   heard.clear();
-  if (platform().capabilities().dateTyping) {
-    hands().type("15112026");
-    EXPECT_EQ(date().Text(), "15/11/2026");
-    EXPECT_EQ(date().Value(), text("15/11/2026"));
-    EXPECT_THAT(heard, testing::Contains("change"));
-    return;
-  }
-  hands().type("15112026{Backspace}{Delete}");
-  hands().paste("15");
-  EXPECT_EQ(date().Text(), "##/##/####");
-  date().Value(text("15/11/2026"));
-  heard.clear();
-  date().SelLength(10);
-  hands().type("7{Backspace}{Delete}");
+  hands().type("7");
+  hands().caret(0, 0);
+  hands().type("x");
+  EXPECT_THAT(heard, ElementsAre("beep", "beep"));
   EXPECT_EQ(date().Text(), "15/11/2026");
+}
+
+TEST_P(TypedDates, AKeyThatChangesNothingRaisesNoChange) {
+  typeFresh("15112026");
+  date().Change = hears("change");
+  heard.clear();
+  hands().caret(0, 0);
+  hands().type("1{Backspace}");
+  EXPECT_THAT(heard, ElementsAre("change"));
+  EXPECT_EQ(date().Text(), "#5/11/2026");
+  heard.clear();
+  hands().type("{Backspace}{Delete}{Enter}{Escape}");
   EXPECT_THAT(heard, IsEmpty());
+}
+
+TEST_P(TypedDates, KeyPressMayDropOrReplaceAKey) {
+  date().KeyPress = [](std::int16_t& code) { code = code == '7' ? std::int16_t{0} : std::int16_t{'4'}; };
+  typeFresh("71");
+  EXPECT_EQ(date().Text(), "4#/##/####");
+}
+
+TEST_P(TypedDates, APastedWholeDateReplacesWhatIsThere) {
+  for (const std::string_view form :
+       {"05/03/2026", "5/3/2026", "5.3.2026", "05032026", "2026-03-05", " 05-03-2026\n"}) {
+    typeFresh("15112026");
+    hands().caret(3, 1);
+    hands().paste(form);
+    EXPECT_EQ(date().Text(), "05/03/2026") << form;
+  }
+}
+
+TEST_P(TypedDates, AnyOtherPasteGoesInAsIfTyped) {
+  typeFresh("15");
+  hands().paste("3/26");
+  EXPECT_EQ(date().Text(), "15/03/26##");
+  hearKeys(date());
+  heard.clear();
+  hands().paste("7x8");
+  EXPECT_EQ(date().Text(), "15/03/267#");
+  EXPECT_THAT(heard, ElementsAre("key 55", "key 120", "beep"));
+}
+
+TEST_P(TypedDates, AFieldThatIsOffTakesNothing) {
+  date().Enabled(false);
+  EXPECT_FAILURE(hands().focus(date()), FailureKind::InvalidCall, "Date");
+  EXPECT_FAILURE(date().SetFocus(), FailureKind::InvalidCall, "Date");
 }
 
 }  // namespace
