@@ -30,9 +30,13 @@ bool isDayOrMonth(std::string_view digits) { return digits.size() == 1 || digits
 }  // namespace
 
 bool fitsDateMask(std::string_view text, bool placeholders) {
-  return std::ranges::equal(text, kBlankDate, [placeholders](char c, char mask) {
-    return mask == '/' ? c == '/' : isDigit(static_cast<unsigned char>(c)) || (placeholders && c == '#');
-  });
+  if (text.size() != kBlankDate.size()) return false;
+  for (std::int32_t place = 0; place < kPlaces; ++place) {
+    const char c = text[static_cast<std::size_t>(place)];
+    const bool fits = isSlash(place) ? c == '/' : isDigit(static_cast<unsigned char>(c)) || (placeholders && c == '#');
+    if (!fits) return false;
+  }
+  return true;
 }
 
 bool DateEntry::type(char32_t character) {
