@@ -123,7 +123,7 @@ void SortedRows::add(std::span<const std::string_view> texts) {
   used_ += bytes;
   // A large row has its chunk to itself, as none can begin so far behind.
   if (used_ >= kLargestChunk) used_ = capacity_;
-  ordered_ = false;
+  grouped_ = false;
 }
 
 void SortedRows::clear() {
@@ -133,7 +133,7 @@ void SortedRows::clear() {
   places_ = std::vector<std::uint32_t>();
   batches_.clear();
   order_ = std::vector<std::uint32_t>();
-  ordered_ = true;
+  grouped_ = false;
 }
 
 std::size_t SortedRows::textsOf(std::uint32_t row) const {
@@ -153,35 +153,47 @@ void SortedRows::sortBy(std::size_t column, bool descending) {
   if (column == column_ && descending == descending_) return;
   column_ = column;
   descending_ = descending;
-  ordered_ = false;
+  grouped_ = false;
 }
 
-std::span<const std::uint32_t> SortedRows::order() const {
-  if (!ordered_) sort();
-  ordered_ = true;
-  return order_;
+std::size_t SortedRows::groupOf(std::uint32_t row) const {
+  const std::string_view shown = text(row, column_);
+  const std::size_t group = shown.empty() ? 0 : std::size_t{folded(shown, 0)} + 1;
+  return descending_ ? kGroups - 1 - group : group;
 }
 
-void SortedRows::sort() const {
-  // Rows that begin with the same byte are brought together first, so that keys are kept for those alone.
-  constexpr std::size_t kHeads = 257;
-  const auto headOf = [&](std::uint32_t row) {
-    const std::string_view shown = text(row, column_);
-    const std::size_t head = shown.empty() ? 0 : std::size_t{folded(shown, 0)} + 1;
-    return descending_ ? kHeads - 1 - head : head;
-  };
-  std::array<std::size_t, kHeads + 1> begins{};
+void SortedRows::group() const {
+  if (grouped_) return;
   const auto count = static_cast<std::uint32_t>(size());
-  for (std::uint32_t row = 0; row < count; ++row) ++begins[headOf(row) + 1];
-  std::partial_sum(begins.begin(), begins.end(), begins.begin());
+  begins_.fill(0);
+  for (std::uint32_t row = 0; row < count; ++row) ++begins_[groupOf(row) + 1];
+  std::partial_sum(begins_.begin(), begins_.end(), begins_.begin());
   order_.resize(count);
-  for (std::uint32_t row = 0; row < count; ++row) order_[begins[headOf(row)]++] = row;
-  // Each begins where the one before it now ends.
-  std::size_t begin = 0;
-  for (std::size_t head = 0; head < kHeads; ++head) {
-    sort(std::span(order_).subspan(begin, begins[head] - begin));
-    begin = begins[head];
-  }
+  auto next = begins_;
+  for (std::uint32_t row = 0; row < count; ++row) order_[next[groupOf(row)]++] = row;
+  sorted_.reset();
+  grouped_ = true;
+}
+
+std::span<const std::uint32_t> SortedRows::sorted(std::size_t group) const {
+  const std::span rows = std::span(order_).subspan(begins_[group], begins_[group + 1] - begins_[group]);
+  if (!sorted_[group]) sort(rows);
+  sorted_.set(group);
+  return rows;
+}
+
+std::uint32_t SortedRows::rowAt(std::size_t place) const {
+  group();
+  const auto behind = std::ranges::upper_bound(begins_, place);
+  const auto group = static_cast<std::size_t>(behind - begins_.begin()) - 1;
+  return sorted(group)[place - begins_[group]];
+}
+
+std::size_t SortedRows::placeOf(std::uint32_t row) const {
+  group();
+  const std::size_t group = groupOf(row);
+  const auto rows = sorted(group);
+  return begins_[group] + static_cast<std::size_t>(std::ranges::find(rows, row) - rows.begin());
 }
 
 void SortedRows::sort(std::span<std::uint32_t> numbers) const {

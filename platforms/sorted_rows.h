@@ -1,6 +1,8 @@
 // Rows of short texts by the thousand, in the order of one of their columns. What a list view on any platform shows.
 #pragma once
 
+#include <array>
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -10,8 +12,8 @@
 
 namespace qvn {
 
-/// Keeps rows close together, a few bytes beside their texts, and sorts them when their order is first looked at. A
-/// row's number is that of its coming, from 0.
+/// Keeps rows close together, a few bytes beside their texts. They are sorted as their order is looked at: those that
+/// begin with the same letter at the first look at one of them. A row's number is that of its coming, from 0.
 class SortedRows {
  public:
   /// Texts are valid UTF-8. "overflow" where the rows grow beyond what can be kept, about 4 GB.
@@ -25,8 +27,10 @@ class SortedRows {
   /// Orders the rows by the texts in a column. Letters compare as small ones as far as U+00DE, and rows that compare
   /// equal stand as they came, in either direction. A column that no row has leaves all as they came.
   void sortBy(std::size_t column, bool descending);
-  /// The numbers of the rows in that order, until the next change.
-  std::span<const std::uint32_t> order() const;
+  /// The number of the row that stands at a place of that order, from 0.
+  std::uint32_t rowAt(std::size_t place) const;
+  /// The place at which a row stands.
+  std::size_t placeOf(std::uint32_t row) const;
 
  private:
   /// Rows from one on that have the same count of texts.
@@ -37,8 +41,12 @@ class SortedRows {
 
   char* room(std::size_t bytes);
   std::size_t textsOf(std::uint32_t row) const;
-  void sort() const;
-  /// Sorts rows whose texts begin with the same byte.
+  /// Which of the groups in their order a row belongs to: that of the byte with which its text begins.
+  std::size_t groupOf(std::uint32_t row) const;
+  /// Brings the rows of each group together, as they came.
+  void group() const;
+  /// The rows of a group, sorted.
+  std::span<const std::uint32_t> sorted(std::size_t group) const;
   void sort(std::span<std::uint32_t> numbers) const;
 
   std::vector<std::unique_ptr<char[]>> chunks_;
@@ -48,8 +56,11 @@ class SortedRows {
   std::vector<Batch> batches_;
   std::size_t column_ = 0;
   bool descending_ = false;
+  static constexpr std::size_t kGroups = 257;  // no text, and each byte
   mutable std::vector<std::uint32_t> order_;
-  mutable bool ordered_ = true;
+  mutable std::array<std::uint32_t, kGroups + 1> begins_{};  // of the groups in the order, the last being its end
+  mutable std::bitset<kGroups> sorted_;
+  mutable bool grouped_ = false;
 };
 
 }  // namespace qvn

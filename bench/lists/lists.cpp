@@ -82,9 +82,9 @@ BENCHMARK(openingAList)
     ->MinTime(1)
     ->Unit(benchmark::kMillisecond);
 
-/// A click on the head of a column of 100,000 rows, until they stand in the new order, beside the sorting of that
-/// column's texts alone. The first argument is the
-/// column, from 1, the second is 1 where the click turns the column to descending.
+/// A click on the head of a column of 100,000 rows, until all have been read in the new order, beside the sorting of
+/// that column's texts alone. The first argument is the column, from 1, the second is 1 where the click turns the
+/// column to descending.
 void clickingAColumn(benchmark::State& state) {
   const Clients& office = clients(kMany);
   const auto column = static_cast<std::int32_t>(state.range(0));
@@ -120,6 +120,9 @@ void clickingAColumn(benchmark::State& state) {
           list.ColumnClick = [&, handler = list.ColumnClick](std::int16_t head) {
             const std::clock_t click = std::clock();
             handler(head);
+            for (std::int32_t row = 0; row < list.rowCount(); ++row) {
+              benchmark::DoNotOptimize(list.text(row, static_cast<std::int32_t>(place)));
+            }
             took = secondsSince(click);
             if (++clicked == clicks) same = showsAll(list, sorted);
           };

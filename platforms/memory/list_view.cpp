@@ -54,18 +54,17 @@ void ListView::addRow(std::span<const std::string_view> texts) {
 std::string ListView::text(std::int32_t row, std::int32_t column) const {
   requirePlace(*this, "rows", rowCount(), row);
   at(column);
-  return std::string(rows_.text(rows_.order()[static_cast<std::size_t>(row)], static_cast<std::size_t>(column)));
+  return std::string(rows_.text(rows_.rowAt(static_cast<std::size_t>(row)), static_cast<std::size_t>(column)));
 }
 
 std::int32_t ListView::selected() const {
   if (selected_ < 0) return -1;
-  const auto order = rows_.order();
-  return static_cast<std::int32_t>(std::ranges::find(order, selected_) - order.begin());
+  return static_cast<std::int32_t>(rows_.placeOf(static_cast<std::uint32_t>(selected_)));
 }
 
 void ListView::select(std::int32_t row) {
   if (row != -1) requirePlace(*this, "rows", rowCount(), row);
-  selected_ = row == -1 ? -1 : std::int64_t{rows_.order()[static_cast<std::size_t>(row)]};
+  selected_ = row == -1 ? -1 : std::int64_t{rows_.rowAt(static_cast<std::size_t>(row))};
   tell();
 }
 

@@ -80,9 +80,11 @@ void Snapshot::add(sqlite3_stmt* statement) {
         const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, i));
         const auto length = static_cast<TextLength>(sqlite3_column_bytes(statement, i));
         if (text == nullptr) throw Failure(FailureKind::Database, "there is no memory for a text");
-        append(last_, Cell::Text);
-        append(last_, length);
-        last_.insert(last_.end(), text, text + length);
+        const std::size_t place = last_.size();
+        last_.resize(place + 1 + sizeof length + length);
+        last_[place] = static_cast<char>(Cell::Text);
+        std::memcpy(&last_[place + 1], &length, sizeof length);
+        std::memcpy(&last_[place] + 1 + sizeof length, text, length);
         break;
       }
       case SQLITE_BLOB:

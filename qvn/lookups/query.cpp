@@ -1,6 +1,6 @@
 #include "qvn/lookups/query.h"
 
-#include <type_traits>
+#include <utility>
 
 #include "qvn/fields/Gest_SCHEDE.h"
 #include "qvn/shared/Globale.h"
@@ -41,15 +41,20 @@ auto Query::converted(std::string_view column, Convert&& convert) const {
   return placed(column, [&] { return convert(stored); });
 }
 
+template <>
+std::string Query::as<std::string>(std::string_view column) const {
+  Variant stored = value(column);
+  if (auto* text = std::get_if<std::string>(&stored)) return std::move(*text);
+  return placed(column, [&] { return qvn::as<std::string>(stored, officeForm()); });
+}
+
 template <class Target>
 Target Query::as(std::string_view column) const {
   return converted(column, [](const Variant& stored) {
-    const bool asNumber = !std::is_same_v<Target, std::string>;
-    return qvn::as<Target>(stored, asNumber && isInDatabaseForm(stored) ? kDatabaseForm : officeForm());
+    return qvn::as<Target>(stored, isInDatabaseForm(stored) ? kDatabaseForm : officeForm());
   });
 }
 
-template std::string Query::as<std::string>(std::string_view column) const;
 template Currency Query::as<Currency>(std::string_view column) const;
 template std::int16_t Query::as<std::int16_t>(std::string_view column) const;
 
