@@ -5,6 +5,7 @@
 
 #include "bench/panels/office.h"
 #include "qvn/panels/commissions/ctlPROV_POLIZZE.h"
+#include "qvn/panels/documents/ctlRICERCA.h"
 #include "qvn/panels/master/ctlIVA.h"
 #include "tests/allocations.h"
 
@@ -52,6 +53,7 @@ void makingAndDroppingAPanel(benchmark::State& state) {
 }
 BENCHMARK(makingAndDroppingAPanel<ctlIVA>);
 BENCHMARK(makingAndDroppingAPanel<ctlPROV_POLIZZE>);
+BENCHMARK(makingAndDroppingAPanel<ctlRICERCA>);
 
 }  // namespace
 }  // namespace qvn::bench

@@ -17,6 +17,7 @@ using toolkit::WidgetKind;
 using Characters = std::vector<std::string>;
 
 constexpr std::int32_t kTwipsAColumn = 75;  // the grid that panels are laid out on, and about a letter of their font
+constexpr int kBoxCells = 3;                // a check box without its caption
 constexpr std::int32_t kFrameLine = 97;     // a frame's top line runs through the middle of its caption
 
 /// A widget that is to be drawn: its columns, and its line, a frame's top and bottom one.
@@ -139,6 +140,11 @@ void drawFrame(Canvas& canvas, const Drawn& frame) {
   canvas.write(frame.row, from, caption);
 }
 
+/// Where the box of a check box begins, which may stand behind its caption.
+int columnOfBox(const Drawn& drawn) {
+  return drawn.widget->layout().align == Align::Right ? drawn.columns.to - kBoxCells : drawn.columns.from;
+}
+
 /// What hides whatever lies under it.
 void drawSolid(Canvas& canvas, const Drawn& drawn) {
   const Widget& widget = *drawn.widget;
@@ -159,8 +165,10 @@ void drawSolid(Canvas& canvas, const Drawn& drawn) {
       inside.insert(inside.end(), {" ", "▾"});
       return between(sides, inside);
     }
-    case WidgetKind::CheckBox:
-      return between(sides, {static_cast<const toolkit::CheckBox&>(widget).Value() != 0 ? "x" : " "});
+    case WidgetKind::CheckBox: {
+      const auto& box = static_cast<const toolkit::CheckBox&>(widget);
+      return writeBetween(canvas, drawn.row, columnOfBox(drawn), sides, {box.Value() != 0 ? "x" : " "});
+    }
     case WidgetKind::CommandButton: {
       const auto& button = static_cast<const toolkit::CommandButton&>(widget);
       return between(sides, fitted(charactersOf(button.Caption()), room, Align::Center));
@@ -180,8 +188,10 @@ void drawSolid(Canvas& canvas, const Drawn& drawn) {
 void drawCaption(Canvas& canvas, const Drawn& drawn) {
   const Widget& widget = *drawn.widget;
   if (widget.Kind() == WidgetKind::CheckBox) {
-    const auto& box = static_cast<const toolkit::CheckBox&>(widget);
-    canvas.writeBehind(drawn.row, drawn.columns.from + 4, charactersOf(box.Caption()));
+    const Characters caption = charactersOf(static_cast<const toolkit::CheckBox&>(widget).Caption());
+    const int box = columnOfBox(drawn);
+    const bool behind = widget.layout().align == Align::Right;
+    canvas.writeBehind(drawn.row, behind ? box - 1 - static_cast<int>(caption.size()) : box + kBoxCells + 1, caption);
   }
   if (widget.Kind() != WidgetKind::Label || widget.layout().bordered) return;
   Characters caption = charactersOf(static_cast<const toolkit::Label&>(widget).Caption());

@@ -26,5 +26,6 @@ double doubleOf(const toolkit::TextBox& box) { return read<double>(box, box.Text
 std::uint8_t byteOf(const toolkit::TextBox& box) { return read<std::uint8_t>(box, box.Text(), toByte); }
 std::int16_t int16Of(const toolkit::TextBox& box) { return read<std::int16_t>(box, box.Text(), toInt16); }
 std::int16_t int16Of(const toolkit::Label& label) { return read<std::int16_t>(label, label.Caption(), toInt16); }
+std::int32_t int32Of(const toolkit::Label& label) { return read<std::int32_t>(label, label.Caption(), toInt32); }
 
 }  // namespace qvn::fields

@@ -19,5 +19,6 @@ double doubleOf(const toolkit::TextBox& box);
 std::uint8_t byteOf(const toolkit::TextBox& box);
 std::int16_t int16Of(const toolkit::TextBox& box);
 std::int16_t int16Of(const toolkit::Label& label);
+std::int32_t int32Of(const toolkit::Label& label);
 
 }  // namespace qvn::fields

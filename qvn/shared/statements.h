@@ -39,6 +39,81 @@ inline constexpr std::string_view kESPOSIZIONE =
 inline constexpr std::string_view kESPOSIZIONE_COMP = "') AND ((QUOTE_POLIZZE.COD_COMP)='";
 inline constexpr std::string_view kESPOSIZIONE_END = "'))";
 
+/// What a viewer shows of an outstanding title: PROT stands bare behind the first text, PROG behind kAndPROG, and the
+/// order at the end.
+struct TitleRows {
+  std::string_view ofPROT;
+  std::string_view inOrder;
+};
+
+inline constexpr TitleRows kTitleCOMPAGNIE{
+    .ofPROT =
+        "SELECT COMPAGNIE.COD_COMP, COMPAGNIE.DESC_COMPAGNIA, SOSPESI.PL, SOSPESI.PA "
+        "FROM SOSPESI INNER JOIN COMPAGNIE ON SOSPESI.COD_COMP = COMPAGNIE.COD_COMP WHERE PROT = ",
+    .inOrder = " ORDER BY COMPAGNIE.COD_COMP"};
+inline constexpr TitleRows kTitlePRODUTTORI{
+    .ofPROT =
+        "SELECT SOSPESI.COD_PROD, PRODUTTORI.DENOMINAZIONE, SOSPESI.PP, SOSPESI.RA "
+        "FROM SOSPESI INNER JOIN PRODUTTORI ON SOSPESI.COD_PROD = PRODUTTORI.COD_PROD WHERE PROT = ",
+    .inOrder = " ORDER BY SOSPESI.COD_PROD"};
+inline constexpr TitleRows kTitlePRODUTTORI_ALT{
+    .ofPROT =
+        "SELECT SOSPESI.COD_PROD_ALT, PRODUTTORI.DENOMINAZIONE, SOSPESI.PP_ALT, SOSPESI.RA_ALT "
+        "FROM SOSPESI INNER JOIN PRODUTTORI ON SOSPESI.COD_PROD_ALT = PRODUTTORI.COD_PROD WHERE PROT = ",
+    .inOrder = " ORDER BY SOSPESI.COD_PROD_ALT"};
+
+/// What a viewer shows of a policy: the figures of one of the two calculations, then the rest, with PROT bare between
+/// kWherePROT and the order.
+struct PolicyRows {
+  std::string_view figuresTRF;
+  std::string_view figuresTAF;
+  std::string_view from;
+  std::string_view inOrder;
+};
+
+inline constexpr std::string_view kU_CALCOLO = "Select U_CALCOLO FROM POLIZZE WHERE PROT = ";
+inline constexpr std::string_view kWherePROT = "WHERE (((QUOTE_POLIZZE.PROT) = ";
+inline constexpr PolicyRows kPolicyCOMPAGNIE{
+    .figuresTRF =
+        "SELECT COMPAGNIE.COD_COMP, COMPAGNIE.DESC_COMPAGNIA, [PL_TRF]*[QUOTA]/1000 AS PL, "
+        "[PN_UFF_TRF]+[ACC_UFF_TRF]+[AQ_UFF_TRF] AS PA ",
+    .figuresTAF =
+        "SELECT COMPAGNIE.COD_COMP, COMPAGNIE.DESC_COMPAGNIA, [PL_TAF]*[QUOTA]/1000 AS PL, "
+        "[PN_UFF_TAF]+[ACC_UFF_TAF]+[AQ_UFF_TAF] AS PA ",
+    .from =
+        "FROM (COMPAGNIE INNER JOIN QUOTE_POLIZZE ON COMPAGNIE.COD_COMP = QUOTE_POLIZZE.COD_COMP) "
+        "INNER JOIN POLIZZE ON QUOTE_POLIZZE.PROT = POLIZZE.PROT ",
+    .inOrder = ")) ORDER BY COMPAGNIE.COD_COMP"};
+inline constexpr PolicyRows kPolicyPRODUTTORI{
+    .figuresTRF =
+        "SELECT QUOTE_POLIZZE.COD_PROD, PRODUTTORI.DENOMINAZIONE, [pn_prod_TRF]+[acc_prod_TRF]+[aq_prod_TRF] AS PP, "
+        "([pn_prod_TRF]+[acc_prod_TRF]+[aq_prod_TRF])/100*[R_ACC] AS RA ",
+    .figuresTAF =
+        "SELECT QUOTE_POLIZZE.COD_PROD, PRODUTTORI.DENOMINAZIONE, [pn_prod_Taf]+[acc_prod_Taf]+[aq_prod_Taf] AS PP, "
+        "([pn_prod_Taf]+[acc_prod_Taf]+[aq_prod_Taf])/100*[R_ACC] AS RA ",
+    .from = "FROM PRODUTTORI INNER JOIN QUOTE_POLIZZE ON PRODUTTORI.COD_PROD = QUOTE_POLIZZE.COD_PROD ",
+    .inOrder = ")) ORDER BY QUOTE_POLIZZE.COD_PROD"};
+inline constexpr PolicyRows kPolicyPRODUTTORI_ALT{
+    .figuresTRF =
+        "SELECT QUOTE_POLIZZE.COD_PROD_ALT, PRODUTTORI.DENOMINAZIONE, "
+        "[pn_prod_ALT_TRF]+[acc_prod_ALT_TRF]+[aq_prod_ALT_TRF] AS PP, "
+        "([pn_prod_ALT_TRF]+[acc_prod_ALT_TRF]+[aq_prod_ALT_TRF])/100*[R_ACC] AS RA ",
+    .figuresTAF =
+        "SELECT QUOTE_POLIZZE.COD_PROD_ALT, PRODUTTORI.DENOMINAZIONE, "
+        "[pn_prod_ALT_TAF]+[acc_prod_ALT_TAF]+[aq_prod_ALT_TAF] AS PP, "
+        "([pn_prod_ALT_TAF]+[acc_prod_ALT_TAF]+[aq_prod_ALT_TAF])/100*[R_ACC] AS RA ",
+    .from = "FROM PRODUTTORI INNER JOIN QUOTE_POLIZZE ON PRODUTTORI.COD_PROD = QUOTE_POLIZZE.COD_PROD_ALT ",
+    .inOrder = ")) ORDER BY QUOTE_POLIZZE.COD_PROD_ALT"};
+
+// What a viewer shows of a claim, whose number stands between the two.
+inline constexpr std::string_view kClaimCOMPAGNIE =
+    "SELECT COMPAGNIE.COD_COMP, COMPAGNIE.DESC_COMPAGNIA, [D_STIMATO]*[QUOTA]/1000 AS PL, "
+    "[D_LIQUIDATO]*[QUOTA]/1000 AS PA "
+    "FROM (COMPAGNIE INNER JOIN QUOTE_SINISTRI ON COMPAGNIE.COD_COMP = QUOTE_SINISTRI.COD_COMP) "
+    "INNER JOIN SINISTRI ON QUOTE_SINISTRI.N_SINISTRO = SINISTRI.N_SINISTRO "
+    "WHERE (((QUOTE_SINISTRI.N_SINISTRO) = '";
+inline constexpr std::string_view kClaimCOMPAGNIE_END = "')) ORDER BY COMPAGNIE.COD_COMP";
+
 /// The texts of one pick list. A code or a description that is compared by Like is followed by kLikeEnd; a number
 /// stands bare at the end.
 struct PickListTexts {

@@ -56,7 +56,7 @@ struct WidgetLayout {
   std::string_view frame = {};  ///< the name of the frame it lies in, a row above this one; empty for none
   Place place = {};
   std::string_view caption = {};  ///< caption, or the text that a field starts with
-  Align align = Align::Left;
+  Align align = Align::Left;      ///< of the text; Right puts the box of a check box behind its caption
   bool enabled = true;
   bool visible = true;
   bool bordered = false;  ///< a label with a border around it

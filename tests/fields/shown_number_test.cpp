@@ -46,6 +46,9 @@ TEST_P(ShownNumbers, AreReadAsWholeNumbersWithTiesToEven) {
   EXPECT_EQ(fields::int16Of(box("2,5")), 2);
   EXPECT_EQ(fields::int16Of(box("3,5")), 4);
   EXPECT_EQ(fields::int16Of(box("-32768")), -32768);
+  EXPECT_EQ(fields::int16Of(label("2,5")), 2);
+  EXPECT_EQ(fields::int32Of(label("2147483646,5")), 2'147'483'646);
+  EXPECT_EQ(fields::int32Of(label("-2147483648")), -2'147'483'648);
   EXPECT_EQ(fields::byteOf(box("254,5")), 254);
   EXPECT_EQ(fields::byteOf(box("255")), 255);
 }
@@ -58,6 +61,7 @@ TEST_P(ShownNumbers, FailNamingTheWidgetOnATextThatIsNone) {
     EXPECT_FAILURE(fields::decimalOf(box(text)), FailureKind::TypeMismatch, "A: ");
     EXPECT_FAILURE(fields::doubleOf(box(text)), FailureKind::TypeMismatch, "A: ");
     EXPECT_FAILURE(fields::int16Of(box(text)), FailureKind::TypeMismatch, "A: ");
+    EXPECT_FAILURE(fields::int32Of(label(text)), FailureKind::TypeMismatch, "Caption: ");
     EXPECT_FAILURE(fields::byteOf(box(text)), FailureKind::TypeMismatch, "A: ");
   }
 }
@@ -69,6 +73,7 @@ TEST_P(ShownNumbers, FailNamingTheWidgetBeyondTheirRange) {
   EXPECT_FAILURE(fields::decimalOf(box("1E+29")), FailureKind::Overflow, "A: ");
   EXPECT_FAILURE(fields::doubleOf(box("1E+309")), FailureKind::Overflow, "A: ");
   EXPECT_FAILURE(fields::int16Of(box("32768")), FailureKind::Overflow, "A: ");
+  EXPECT_FAILURE(fields::int32Of(label("2147483648")), FailureKind::Overflow, "Caption: ");
   EXPECT_FAILURE(fields::byteOf(box("256")), FailureKind::Overflow, "A: ");
   EXPECT_FAILURE(fields::byteOf(box("-1")), FailureKind::Overflow, "A: ");
 }

@@ -3,6 +3,7 @@
 
 #include "platforms/memory/platform.h"
 #include "qvn/panels/commissions/ctlPROV_POLIZZE.h"
+#include "qvn/panels/documents/ctlRICERCA.h"
 #include "qvn/panels/master/ctlIVA.h"
 #include "qvn/shared/Globale.h"
 #include "tests/allocations.h"
@@ -42,6 +43,22 @@ TEST(PanelFootprint, OfTheCommissionPanelIsUnderSixtyFourKibibytesAndGivenBack) 
     container.notices.clear();
   }
   EXPECT_LT(peakBytes() - before, 64 * 1024);
+  EXPECT_EQ(liveBytes(), before);
+  Globale::uninstall();
+}
+
+TEST(PanelFootprint, OfThePolicyPanelIsUnderEightKibibytesAndGivenBack) {
+  memory::Platform platform;
+  Globale::install(platform);
+  RecordingContainer container;
+  { const ctlRICERCA first(PanelSite{container, "polizza"}); }  // makes the shared objects, once
+  const std::int64_t before = liveBytes();
+  resetPeak();
+  {
+    const ctlRICERCA panel(PanelSite{container, "polizza"});
+    EXPECT_GT(peakBytes() - before, 500);
+  }
+  EXPECT_LT(peakBytes() - before, 8 * 1024);
   EXPECT_EQ(liveBytes(), before);
   Globale::uninstall();
 }

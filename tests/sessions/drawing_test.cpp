@@ -156,6 +156,27 @@ TEST_F(Drawing, LetsFieldsWinOverCaptionsInWhateverOrderTheyStand) {
   EXPECT_THAT(drawn(place(widgets)), ElementsAre("   Saldo: │22 │ Ded.: │40 │"));
 }
 
+TEST_F(Drawing, PutsTheBoxOfACheckBoxAtTheRightBehindItsCaption) {
+  static constexpr std::array<WidgetLayout, 3> widgets{{
+      {.name = "Check1", .kind = WidgetKind::CheckBox, .place = {0, 0, 900, 315}, .caption = "prima"},
+      {.name = "Check2",
+       .kind = WidgetKind::CheckBox,
+       .place = {975, 0, 900, 315},
+       .caption = "dopo",
+       .align = Align::Right},
+      {.name = "Check3",
+       .kind = WidgetKind::CheckBox,
+       .place = {2400, 0, 300, 315},
+       .caption = "altro",
+       .align = Align::Right},
+  }};
+  toolkit::Surface& panel = place(widgets);
+  EXPECT_EQ(drawn(panel).front(), "│ │ prima        dopo │ │  altro │ │");
+  panel.checkBox("Check2").Value(1);
+  panel.checkBox("Check2").SetFocus();
+  EXPECT_EQ(drawn(panel).front(), "│ │ prima        dopo ║x║  altro │ │");
+}
+
 TEST_F(Drawing, RunsALongCaptionOnOverBlankCells) {
   static constexpr std::array<WidgetLayout, 3> widgets{{
       {.name = "Label1",

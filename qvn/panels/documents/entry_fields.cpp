@@ -1,0 +1,37 @@
+#include "qvn/panels/documents/entry_fields.h"
+
+#include "qvn/fields/Gest_SCHEDE.h"
+#include "qvn/shared/patterns.h"
+
+namespace qvn::documents {
+
+void wireWithList(toolkit::TextBox& box, std::string_view property) {
+  box.Change = [&box, property] { fields::announce(box, property); };
+  box.GotFocus = [&box] {
+    Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kFocusedWithList);
+    Gest_SCHEDE::SelezionaTutto(box);
+  };
+  box.LostFocus = [&box] { Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kAtRest); };
+}
+
+void wireCode(toolkit::TextBox& box, std::string_view property, lookups::ListFunction list, std::int16_t limit) {
+  wireWithList(box, property);
+  box.KeyPress = [&box, list, limit](std::int16_t& KeyAscii) {
+    lookups::keyOrList(box, KeyAscii, list, Gest_SCHEDE::FiltroTesto, limit);
+  };
+}
+
+void wireAmount(toolkit::TextBox& box, fields::Filter filter) {
+  box.GotFocus = [&box] {
+    Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kFocused);
+    fields::rewrite(box, Pattern::TwoDecimals);
+    Gest_SCHEDE::SelezionaTutto(box);
+  };
+  box.KeyPress = [&box, filter](std::int16_t& KeyAscii) { filter(box, KeyAscii, 2); };
+  box.LostFocus = [&box] {
+    Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kAtRest);
+    fields::rewrite(box, Pattern::Currency);
+  };
+}
+
+}  // namespace qvn::documents
