@@ -1,11 +1,16 @@
 #include "platforms/qt/button_views.h"
 
+#include <QStyleOptionButton>
+
+#include "platforms/qt/captions.h"
 #include "platforms/qt/screen.h"
 #include "platforms/qt/texts.h"
 
 namespace qvn::qt {
 
 namespace {
+
+constexpr int kButtonMargin = 4;  // pixels between a button's edge and its caption
 
 /// Whether the event is Tab or Shift+Tab, which Qt would take before the widget.
 bool isTab(const QEvent& event) {
@@ -35,8 +40,11 @@ void ButtonView::keyPressEvent(QKeyEvent* event) {
   if (!press(*event)) event->ignore();
 }
 
+void ButtonView::showContent() { fitCaption(*this, text(), width() - 2 * kButtonMargin); }
+
 CheckView::CheckView(Screen& screen, toolkit::CheckBox& model, QWidget& parent)
     : QCheckBox(shown(model.Caption()), &parent), View(screen, model) {
+  if (model.layout().align == toolkit::Align::Right) setLayoutDirection(Qt::RightToLeft);  // the box behind its caption
   connect(this, &QCheckBox::clicked, this, [this] {
     if (!byPerson()) return;
     toolkit::Widget& clicked = *subject();
@@ -53,6 +61,11 @@ void CheckView::keyPressEvent(QKeyEvent* event) {
   if (!press(*event)) event->ignore();
 }
 
-void CheckView::showContent() { setChecked(static_cast<toolkit::CheckBox&>(*subject()).Value() != 0); }
+void CheckView::showContent() {
+  setChecked(static_cast<toolkit::CheckBox&>(*subject()).Value() != 0);
+  QStyleOptionButton option;
+  initStyleOption(&option);
+  fitCaption(*this, text(), style()->subElementRect(QStyle::SE_CheckBoxContents, &option, this).width());
+}
 
 }  // namespace qvn::qt

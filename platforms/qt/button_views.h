@@ -19,7 +19,7 @@ class ButtonView final : public QPushButton, public View {
   void keyReleaseEvent(QKeyEvent* event) override { event->ignore(); }
 
  private:
-  void showContent() override {}
+  void showContent() override;
 };
 
 class CheckView final : public QCheckBox, public View {

@@ -1,8 +1,10 @@
 #include "platforms/qt/combo_view.h"
 
 #include <QApplication>
+#include <QStyleOptionComboBox>
 #include <QWheelEvent>
 
+#include "platforms/qt/captions.h"
 #include "platforms/qt/colours.h"
 #include "platforms/qt/screen.h"
 #include "platforms/qt/texts.h"
@@ -34,6 +36,18 @@ void ComboView::showContent() {
     }
   }
   if (currentIndex() != list().ListIndex()) setCurrentIndex(list().ListIndex());
+  fitItems();
+}
+
+void ComboView::fitItems() {
+  QString widest;
+  for (int i = 0; i < count(); ++i) {
+    if (widthOf(itemText(i), font()) > widthOf(widest, font())) widest = itemText(i);
+  }
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  fitCaption(*this, widest,
+             style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this).width());
 }
 
 bool ComboView::event(QEvent* event) {

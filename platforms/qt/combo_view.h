@@ -20,6 +20,8 @@ class ComboView final : public QComboBox, public View {
 
  private:
   void showContent() override;
+  /// Draws the items in letters so narrow that the widest of them fits.
+  void fitItems();
   QPalette paletteFor(std::uint32_t back, std::uint32_t fore) const override;
   toolkit::ComboBox& list() const { return static_cast<toolkit::ComboBox&>(*subject()); }
 };

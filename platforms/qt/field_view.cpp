@@ -3,8 +3,10 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QDropEvent>
 #include <QInputMethodEvent>
 #include <QMenu>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <algorithm>
 #include <array>
@@ -45,7 +47,6 @@ FieldView::FieldView(Screen& screen, toolkit::EditableText& model, QWidget& pare
     : QLineEdit(&parent), View(screen, model) {
   setMaxLength(std::numeric_limits<int>::max());
   setAlignment(kAlignments.at(static_cast<std::size_t>(model.layout().align)) | Qt::AlignVCenter);
-  setAcceptDrops(false);
   connect(this, &QLineEdit::selectionChanged, this, [this] { takeSelection(); });
   connect(this, &QLineEdit::cursorPositionChanged, this, [this] { takeSelection(); });
   // An assistive program may write the text past all keys: what the field says is put back.
@@ -100,10 +101,13 @@ void FieldView::edit(Do act) {
   if (subject() != nullptr && field().hasFocus() && shown(field().Text()) != before) before_.push_back(before);
 }
 
-void FieldView::paste(const QString& text) {
+void FieldView::paste(const QString& text, std::optional<std::int32_t> at) {
   edit([&] {
-    onScreen().act(*subject(), "KeyPress", [&](memory::Hands& hands) {
-      onScreen().reach(*subject());
+    toolkit::EditableText& target = field();
+    onScreen().act(target, "KeyPress", [&](memory::Hands& hands) {
+      onScreen().reach(target);
+      if (!target.hasFocus()) return;
+      if (at) hands.caret(*at, 0);
       hands.paste(utf8(text));
     });
   });
@@ -181,6 +185,22 @@ void FieldView::mouseReleaseEvent(QMouseEvent* event) {
   if (byPerson() && QApplication::clipboard()->supportsSelection()) {
     paste(QApplication::clipboard()->text(QClipboard::Selection));
   }
+}
+
+bool FieldView::takesDrop(QDropEvent& event) const {
+  const bool takes = byPerson() && event.mimeData()->hasText();
+  event.setDropAction(Qt::CopyAction);  // where it was, it stays
+  event.setAccepted(takes);
+  return takes;
+}
+
+void FieldView::dragEnterEvent(QDragEnterEvent* event) { takesDrop(*event); }
+
+void FieldView::dragMoveEvent(QDragMoveEvent* event) { takesDrop(*event); }
+
+void FieldView::dropEvent(QDropEvent* event) {
+  if (!takesDrop(*event)) return;
+  paste(event->mimeData()->text(), charactersBefore(text(), cursorPositionAt(event->position().toPoint())));
 }
 
 void FieldView::contextMenuEvent(QContextMenuEvent* event) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QLineEdit>
+#include <optional>
 #include <vector>
 
 #include "platforms/qt/view.h"
@@ -26,6 +27,10 @@ class FieldView final : public QLineEdit, public View {
   void inputMethodEvent(QInputMethodEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  /// A text may be dropped into the field, which takes it as a paste at that place.
+  void dragEnterEvent(QDragEnterEvent* event) override;
+  void dragMoveEvent(QDragMoveEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
 
@@ -38,7 +43,9 @@ class FieldView final : public QLineEdit, public View {
   /// Does what changes the text, and keeps what was there before.
   template <class Do>
   void edit(Do act);
-  void paste(const QString& text);
+  /// Puts the caret before the character of that index first, if there is one.
+  void paste(const QString& text, std::optional<std::int32_t> at = {});
+  bool takesDrop(QDropEvent& event) const;
   bool deleteWord(const QKeyEvent& event);
 
   std::vector<QString> before_;

@@ -1,7 +1,10 @@
 #include "platforms/qt/frame_view.h"
 
+#include <QApplication>
 #include <QPainter>
 
+#include "platforms/qt/captions.h"
+#include "platforms/qt/colours.h"
 #include "platforms/qt/texts.h"
 
 namespace qvn::qt {
@@ -12,19 +15,20 @@ FrameView::FrameView(Screen& screen, toolkit::Frame& model, QWidget& parent)
 void FrameView::showContent() {
   const QString caption = shown(static_cast<toolkit::Frame&>(*subject()).Caption());
   if (title() != caption) setTitle(caption);
+  fitCaption(*this, caption, width() - 2 * titleRect().left());
+}
+
+QRect FrameView::titleRect() const {
+  const QFontMetrics metrics = fontMetrics();
+  return {metrics.averageCharWidth() + 2, 0, widthOf(title(), font()) + 4, metrics.height()};
 }
 
 void FrameView::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  const QFontMetrics metrics = fontMetrics();
-  const int middle = title().isEmpty() ? 0 : metrics.height() / 2;
-  constexpr double kHalfLine = 0.5;
-  const QRectF line = QRectF(rect()).adjusted(kHalfLine, middle + kHalfLine, -kHalfLine, -kHalfLine);
-  const QRect caption(metrics.averageCharWidth() + 2, 0, metrics.horizontalAdvance(title()) + 4, metrics.height());
+  const QRect caption = titleRect();
+  const int middle = title().isEmpty() ? 0 : caption.height() / 2;
   if (!title().isEmpty()) painter.setClipRegion(QRegion(rect()) - QRegion(caption));
-  painter.setPen(palette().color(QPalette::Mid));
-  painter.drawRoundedRect(line, 2, 2);
+  drawLineAround(rect().adjusted(0, middle, 0, 0), lineColour(QApplication::palette()), painter);
   painter.setClipping(false);
   painter.setPen(palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
   painter.drawText(caption, Qt::AlignCenter | Qt::TextShowMnemonic, title());

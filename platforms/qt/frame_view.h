@@ -18,6 +18,7 @@ class FrameView final : public QGroupBox, public View {
 
  private:
   void showContent() override;
+  QRect titleRect() const;
 };
 
 }  // namespace qvn::qt

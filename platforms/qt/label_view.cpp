@@ -1,48 +1,71 @@
 #include "platforms/qt/label_view.h"
 
-#include <algorithm>
+#include <QApplication>
+#include <QPainter>
+#include <QStyle>
 #include <array>
 
+#include "platforms/qt/captions.h"
+#include "platforms/qt/colours.h"
+#include "platforms/qt/spoken_names.h"
 #include "platforms/qt/texts.h"
+#include "platforms/qt/twips.h"
 
 namespace qvn::qt {
 
 namespace {
-constexpr int kAir = 5;         // pixels beside a caption, so that it does not touch the field before it
-constexpr int kNarrowest = 70;  // in hundredths of the letters' own width
+constexpr int kAir = 3;  // pixels between a caption and the line around it
 constexpr std::array kAlignments{Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 }  // namespace
 
-LabelView::LabelView(Screen& screen, toolkit::Label& model, QWidget& parent) : QLabel(&parent), View(screen, model) {
-  const toolkit::WidgetLayout& row = model.layout();
+LabelView::LabelView(Screen& screen, toolkit::Label& model, QWidget& parent)
+    : QLabel(&parent), View(screen, model), bordered_(model.layout().bordered) {
   setTextFormat(Qt::PlainText);
-  setAlignment(kAlignments.at(static_cast<std::size_t>(row.align)) | Qt::AlignVCenter);
-  if (row.bordered) setFrameStyle(QFrame::Panel | QFrame::Sunken);
-  if (row.bordered) setMargin(1);
+  setAlignment(kAlignments.at(static_cast<std::size_t>(model.layout().align)) | Qt::AlignVCenter);
+  if (bordered_) {
+    setContentsMargins(kAir, 0, kAir, 0);
+  } else {
+    const Covered covered = coveredPart(model);
+    setContentsMargins(pixels(covered.left, logicalDpiX()), 0, pixels(covered.right, logicalDpiX()), 0);
+  }
 }
 
 void LabelView::showContent() {
   const QString caption = shown(static_cast<toolkit::Label&>(*subject()).Caption());
   setWordWrap(height() >= 2 * fontMetrics().lineSpacing());
-  if (text() == caption) return;
-  setText(caption);
-  if (!wordWrap() && frameShape() == QFrame::NoFrame) fitCaption();
+  if (text() != caption) setText(caption);
+  if (!wordWrap()) fitCaption(*this, caption, contentsRect().width());
+  const QString tip = shown(subject()->ToolTip());
+  const bool cut = !wordWrap() && shownText() != caption;
+  setToolTip(cut ? (tip.isEmpty() ? caption : tip + QStringLiteral(": ") + caption) : tip);
+  if (bordered_) setAccessibleName(spokenName(*subject()) + QStringLiteral(": ") + caption);
 }
 
-void LabelView::fitCaption() {
-  QFont plain = font();
-  plain.setStretch(QFont::Unstretched);
-  const int needed = QFontMetrics(plain).horizontalAdvance(text()) + kAir;
-  const int stretch = needed <= width() ? QFont::Unstretched : std::max(kNarrowest, 100 * width() / needed);
-  if (stretch == stretch_) return;
-  stretch_ = stretch;
-  plain.setStretch(stretch);
-  setFont(plain);
+QString LabelView::shownText() const {
+  return fontMetrics().elidedText(text(), Qt::ElideRight, contentsRect().width());
+}
+
+QPalette LabelView::paletteFor(std::uint32_t back, std::uint32_t fore) const {
+  return back == toolkit::kFaceGray ? textColours(QApplication::palette(), fore)
+                                    : labelColours(QApplication::palette(), back, fore);
+}
+
+void LabelView::paintEvent(QPaintEvent* event) {
+  QPainter painter(this);
+  if (subject() != nullptr && subject()->BackColor() != toolkit::kFaceGray) {
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+  }
+  if (bordered_) drawLineAround(rect(), lineColour(QApplication::palette()), painter);
+  if (wordWrap()) {
+    painter.end();
+    return QLabel::paintEvent(event);
+  }
+  const QRect room = contentsRect();
+  style()->drawItemText(&painter, room, static_cast<int>(alignment()), palette(), isEnabled(), shownText(),
+                        foregroundRole());
 }
 
 DataControlView::DataControlView(Screen& screen, toolkit::Widget& model, QWidget& parent)
-    : QLabel(&parent), View(screen, model) {
-  setFrameStyle(QFrame::Panel | QFrame::Sunken);
-}
+    : QLabel(&parent), View(screen, model) {}
 
 }  // namespace qvn::qt

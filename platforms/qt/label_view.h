@@ -7,17 +7,23 @@
 
 namespace qvn::qt {
 
+/// A caption that is wider than its place is drawn in narrower letters. Where they do not help it ends in dots, and the
+/// tooltip tells it whole.
 class LabelView final : public QLabel, public View {
  public:
   LabelView(Screen& screen, toolkit::Label& model, QWidget& parent);
   QWidget& widget() override { return *this; }
 
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
  private:
   void showContent() override;
-  /// Draws a caption that is wider than its place in narrower letters.
-  void fitCaption();
+  QPalette paletteFor(std::uint32_t back, std::uint32_t fore) const override;
+  /// The caption as there is room for it.
+  QString shownText() const;
 
-  int stretch_ = QFont::Unstretched;
+  bool bordered_;
 };
 
 /// What stands for a data control, which shows nothing of its own.

@@ -2,6 +2,7 @@
 
 #include <QEvent>
 #include <algorithm>
+#include <array>
 #include <vector>
 
 #include "platforms/memory/usable.h"
@@ -80,7 +81,11 @@ void PanelWidget::make(toolkit::Widget& widget) {
   const toolkit::WidgetLayout& row = widget.layout();
   made.setObjectName(shown(row.name));
   made.setToolTip(shown(row.tooltip));
-  made.setAccessibleName(spokenName(widget));
+  if (row.kind == toolkit::WidgetKind::Label) {
+    made.lower();  // beneath the fields that it is laid out over, which the mouse then reaches
+  } else {
+    made.setAccessibleName(spokenName(widget));
+  }
   if (row.bold) {
     QFont bold = made.font();
     bold.setBold(true);
@@ -125,7 +130,9 @@ void PanelWidget::detach() {
 
 void PanelWidget::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
-  if (event->type() != QEvent::ApplicationPaletteChange && event->type() != QEvent::PaletteChange) return;
+  constexpr std::array kOfTheDesktop{QEvent::ApplicationPaletteChange, QEvent::PaletteChange,
+                                     QEvent::ApplicationFontChange, QEvent::FontChange};
+  if (std::ranges::find(kOfTheDesktop, event->type()) == kOfTheDesktop.end()) return;
   for (const auto& [widget, view] : views_) {
     view->forgetLook();
     screen_.markStale(*view);

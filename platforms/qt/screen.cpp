@@ -44,6 +44,7 @@ void Screen::dropped(const memory::Surface& surface) noexcept {
 }
 
 void Screen::forget(const PanelWidget& panel) noexcept {
+  marked_ = nullptr;
   for (const auto& [widget, view] : panel.views()) {
     std::ranges::replace(stale_, view, nullptr);
     if (holderShown_ == widget) holderShown_ = nullptr;
@@ -64,14 +65,17 @@ void Screen::discard(PanelWidget& panel) noexcept {
 }
 
 void Screen::changed(const toolkit::Widget& widget) {
+  if (&widget == marked_) return;
   const auto found = panels_.find(&widget.owner());
   if (found == panels_.end()) return;
   const PanelWidget& panel = *found->second;
   if (View* view = panel.viewOf(widget)) markStale(*view);
-  if (widget.Kind() != toolkit::WidgetKind::DataControl) return;
-  for (const auto& [other, view] : panel.views()) {
-    if (other->Kind() == toolkit::WidgetKind::DataGrid) markStale(*view);
+  if (widget.Kind() == toolkit::WidgetKind::DataControl) {
+    for (const auto& [other, view] : panel.views()) {
+      if (other->Kind() == toolkit::WidgetKind::DataGrid) markStale(*view);
+    }
   }
+  marked_ = &widget;
 }
 
 void Screen::changed(const memory::Surface& surface) {
@@ -168,6 +172,7 @@ void Screen::settle() {
   while (!stale_.empty()) {
     View* view = stale_.back();
     stale_.pop_back();
+    marked_ = nullptr;
     if (view == nullptr) continue;
     view->stale_ = false;
     view->showSubject();

@@ -92,6 +92,7 @@ class Screen final : public memory::Stage {
   std::unordered_map<const toolkit::Surface*, PanelWidget*> panels_;
   std::vector<View*> stale_;
   std::vector<const memory::Surface*> staleFlags_;
+  const toolkit::Widget* marked_ = nullptr;  // the last that changed, if it is not shown yet: rows come by the thousand
   std::vector<Wait> waiting_;
   const toolkit::Widget* holderShown_ = nullptr;
   int acting_ = 0;

@@ -7,7 +7,8 @@
 
 namespace qvn::qt {
 
-/// The widget's caption; for a field, that of the label before it in its row, or its tooltip; else its name.
+/// The widget's caption. For a field, and for a label that shows a value: the label before it in its row, with that
+/// above it at the head of its column; else its tooltip; else its name without the mark of its kind.
 QString spokenName(const toolkit::Widget& widget);
 
 }  // namespace qvn::qt

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <algorithm>
 
 #include "platforms/qt/colours.h"
@@ -21,23 +22,27 @@ bool isTab(const QEvent& event) {
 }  // namespace
 
 ListWidget::ListWidget(Screen& screen, memory::ListView& model, QWidget& parent)
-    : QTreeView(&parent), View(screen, model), rows_(*new TableRows<toolkit::ListView>(model, this)) {
-  setRootIsDecorated(false);
-  setItemsExpandable(false);
-  setUniformRowHeights(true);
-  setAllColumnsShowFocus(true);
+    : QTableView(&parent), View(screen, model), rows_(*new TableRows<toolkit::ListView>(model, this)) {
+  setSelectionBehavior(SelectRows);
+  setSelectionMode(SingleSelection);
+  setHorizontalScrollMode(ScrollPerPixel);
+  setShowGrid(false);
+  setWordWrap(false);
   setEditTriggers(NoEditTriggers);
+  verticalHeader()->hide();
+  verticalHeader()->setMinimumSectionSize(fontMetrics().height());
+  verticalHeader()->setDefaultSectionSize(fontMetrics().height());
+  verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   setModel(&rows_);
-  header()->setSectionsClickable(true);
-  header()->setSortIndicatorShown(true);
-  header()->setStretchLastSection(false);
+  horizontalHeader()->setHighlightSections(false);
+  horizontalHeader()->setSortIndicatorShown(true);
   connect(selectionModel(), &QItemSelectionModel::currentRowChanged, this, [this](const QModelIndex& now) {
     if (byPerson() && !gainingFocus_ && now.isValid() && now.row() != list().selected())
       act(Act::row(now.row()), "KeyPress");
   });
-  connect(this, &QTreeView::doubleClicked, this,
+  connect(this, &QTableView::doubleClicked, this,
           [this](const QModelIndex& on) { act(Act::doubleClick(on.row()), "DblClick"); });
-  connect(header(), &QHeaderView::sectionClicked, this,
+  connect(horizontalHeader(), &QHeaderView::sectionClicked, this,
           [this](int section) { act(Act::column(section + 1), "ColumnClick"); });
 }
 
@@ -56,9 +61,10 @@ void ListWidget::showContent() {
     shownEdition_ = list().edition();
     rows_.renew();
     for (int column = 0; column < list().columnCount(); ++column) {
-      header()->resizeSection(column, pixels(list().columnWidth(column), logicalDpiX()));
+      horizontalHeader()->resizeSection(column, pixels(list().columnWidth(column), logicalDpiX()));
     }
-    header()->setSortIndicator(list().SortKey(), list().SortOrder() == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
+    horizontalHeader()->setSortIndicator(list().SortKey(),
+                                         list().SortOrder() == 0 ? Qt::AscendingOrder : Qt::DescendingOrder);
   }
   const int selected = list().selected();
   const QModelIndex current = selectionModel()->currentIndex();
@@ -70,18 +76,18 @@ void ListWidget::showContent() {
 }
 
 bool ListWidget::event(QEvent* event) {
-  return isTab(*event) ? press(static_cast<QKeyEvent&>(*event)) : QTreeView::event(event);
+  return isTab(*event) ? press(static_cast<QKeyEvent&>(*event)) : QTableView::event(event);
 }
 
 void ListWidget::keyPressEvent(QKeyEvent* event) {
   const bool byPage = event->key() == Qt::Key_PageUp || event->key() == Qt::Key_PageDown;
-  if (byPage) return QTreeView::keyPressEvent(event);
+  if (byPage) return QTableView::keyPressEvent(event);
   if (!press(*event)) event->ignore();
 }
 
 void ListWidget::focusInEvent(QFocusEvent* event) {
   gainingFocus_ = true;
-  QTreeView::focusInEvent(event);
+  QTableView::focusInEvent(event);
   gainingFocus_ = false;
   if (byPerson()) onScreen().showAgain(*this);
 }
@@ -91,8 +97,8 @@ GridWidget::GridWidget(Screen& screen, toolkit::DataGrid& model, QWidget& parent
   setEditTriggers(NoEditTriggers);
   setModel(&rows_);
   verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 4);
+  verticalHeader()->hide();
   horizontalHeader()->setSectionResizeMode(QHeaderView::Interactive);
-  horizontalHeader()->setStretchLastSection(true);
 }
 
 QPalette GridWidget::paletteFor(std::uint32_t back, std::uint32_t fore) const {
@@ -102,6 +108,18 @@ QPalette GridWidget::paletteFor(std::uint32_t back, std::uint32_t fore) const {
 void GridWidget::showContent() {
   rows_.renew();
   resizeColumnsToContents();
+  giveRestToWidest();
+}
+
+void GridWidget::giveRestToWidest() {
+  const int columns = rows_.columnCount();
+  if (columns == 0) return;
+  int widest = 0;
+  for (int column = 1; column < columns; ++column) {
+    if (columnWidth(column) > columnWidth(widest)) widest = column;
+  }
+  const int rest = width() - 2 * frameWidth() - verticalScrollBar()->sizeHint().width() - horizontalHeader()->length();
+  if (rest > 0) setColumnWidth(widest, columnWidth(widest) + rest);
 }
 
 bool GridWidget::event(QEvent* event) {

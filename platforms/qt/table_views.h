@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QTableView>
-#include <QTreeView>
 #include <cstdint>
 
 #include "platforms/memory/list_view.h"
@@ -11,7 +10,7 @@
 
 namespace qvn::qt {
 
-class ListWidget final : public QTreeView, public View {
+class ListWidget final : public QTableView, public View {
  public:
   ListWidget(Screen& screen, memory::ListView& model, QWidget& parent);
   QWidget& widget() override { return *this; }
@@ -44,6 +43,8 @@ class GridWidget final : public QTableView, public View {
 
  private:
   void showContent() override;
+  /// Makes the widest column as wide as the others leave room.
+  void giveRestToWidest();
   QPalette paletteFor(std::uint32_t back, std::uint32_t fore) const override;
 
   TableRows<toolkit::DataGrid>& rows_;

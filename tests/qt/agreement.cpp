@@ -1,11 +1,11 @@
 #include "tests/qt/agreement.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QTreeView>
 
 #include "qvn/toolkit/list_view.h"
 
@@ -44,7 +44,7 @@ void compareList(Comparison& comparison, const toolkit::ComboBox& list, const QC
   comparison.same("current item", list.ListIndex(), box.currentIndex());
 }
 
-void compareRows(Comparison& comparison, const toolkit::ListView& list, const QTreeView& tree) {
+void compareRows(Comparison& comparison, const toolkit::ListView& list, const QAbstractItemView& tree) {
   const QAbstractItemModel& rows = *tree.model();
   comparison.same("rows", list.rowCount(), rows.rowCount());
   for (std::int32_t row = 0; row < rows.rowCount(); ++row) {
@@ -75,7 +75,7 @@ void compareContent(Comparison& comparison, const toolkit::Widget& widget, const
                              dynamic_cast<const QAbstractButton&>(shown).isChecked());
     case toolkit::WidgetKind::ListView:
       return compareRows(comparison, static_cast<const toolkit::ListView&>(widget),
-                         dynamic_cast<const QTreeView&>(shown));
+                         dynamic_cast<const QAbstractItemView&>(shown));
     default:
       return;
   }

@@ -129,6 +129,24 @@ TEST_F(QtField, WhatAnInputMethodComposesGoesPastTheFilter) {
   expectAgreement();
 }
 
+TEST_F(QtField, TheKeypadsDecimalKeyTypesAComma) {
+  write("1");
+  press(Qt::Key_Period, ".", Qt::KeypadModifier);
+  press(Qt::Key_5, "5", Qt::KeypadModifier);
+  press(Qt::Key_Period, ".");
+  EXPECT_EQ(box().Text(), "1,5.");
+  expectAgreement();
+}
+
+TEST_F(QtField, AMenuShortcutOfTheHostIsNoKeyOfTheField) {
+  write("1");
+  press(Qt::Key_S, "\x13", Qt::ControlModifier);
+  press(Qt::Key_F, "f", Qt::AltModifier);
+  press(Qt::Key_F5);
+  EXPECT_EQ(box().Text(), "1");
+  expectAgreement();
+}
+
 TEST_F(QtField, TheMouseSetsTheCaretAndSelects) {
   write("12345");
   clickAt(line(), QPointF(1, line().height() / 2.0));
@@ -161,10 +179,22 @@ TEST_F(QtField, AFailingHandlerGoesToTheContainerAndTheKeysGoOn) {
   expectAgreement();
 }
 
-TEST_F(QtField, ADateTakesNoTyping) {
-  focus(panel->date("Date"));
-  write("1");
-  EXPECT_EQ(panel->date("Date").Text(), "##/##/####");
+TEST_F(QtField, ADateIsTypedOverItsMask) {
+  toolkit::DateControl& date = panel->date("Date");
+  focus(date);
+  write("15x1");
+  EXPECT_EQ(date.Text(), "15/1#/####");
+  press(Qt::Key_Backspace, "\b");
+  EXPECT_EQ(date.Text(), "15/##/####");
+  press(Qt::Key_A, "\x01", Qt::ControlModifier);
+  press(Qt::Key_X, "\x18", Qt::ControlModifier);
+  EXPECT_EQ(date.Text(), "##/##/####");
+  expectAgreement();
+  press(Qt::Key_Z, "\x1a", Qt::ControlModifier);
+  EXPECT_EQ(date.Text(), "15/##/####");
+  press(Qt::Key_A, "\x01", Qt::ControlModifier);
+  paste("5/3/2026");
+  EXPECT_EQ(date.Text(), "05/03/2026");
   expectAgreement();
 }
 

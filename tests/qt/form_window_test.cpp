@@ -2,8 +2,8 @@
 #include <QAbstractButton>
 #include <QDialog>
 #include <QHeaderView>
+#include <QTableView>
 #include <QTimer>
-#include <QTreeView>
 #include <array>
 #include <functional>
 
@@ -54,10 +54,10 @@ class QtForm : public OnScreen {
   }
 
   toolkit::ListView& rows() { return form->surface().listView("Rows"); }
-  QTreeView& tree() {
-    return dynamic_cast<QTreeView&>(*platform.widgetOf(static_cast<const toolkit::Widget&>(rows())));
+  QTableView& table() {
+    return dynamic_cast<QTableView&>(*platform.widgetOf(static_cast<const toolkit::Widget&>(rows())));
   }
-  QDialog& window() { return dynamic_cast<QDialog&>(*tree().window()); }
+  QDialog& window() { return dynamic_cast<QDialog&>(*table().window()); }
 
   /// Shows the form, and does this as soon as it waits.
   void showAnd(std::function<void()> act) {
@@ -95,17 +95,17 @@ TEST_F(QtForm, TheCancelKeyUnloadsIt) {
 
 TEST_F(QtForm, ARowIsChosenByTheMouse) {
   showAnd([this] {
-    tree().setCurrentIndex(tree().model()->index(2, 0));
+    table().setCurrentIndex(table().model()->index(2, 0));
     EXPECT_EQ(rows().selected(), 2);
-    emit tree().doubleClicked(tree().model()->index(0, 0));
+    emit table().doubleClicked(table().model()->index(0, 0));
   });
   EXPECT_EQ(chosen, "double a");
 }
 
 TEST_F(QtForm, AColumnHeadSortsAndTheSelectedRowStaysSelected) {
   showAnd([this] {
-    tree().setCurrentIndex(tree().model()->index(0, 0));
-    emit tree().header()->sectionClicked(1);
+    table().setCurrentIndex(table().model()->index(0, 0));
+    emit table().horizontalHeader()->sectionClicked(1);
     EXPECT_EQ(rows().text(0, 1), "due");
     EXPECT_EQ(rows().selected(), 2);
     EXPECT_THAT(disagreements(platform, form->surface()), testing::Each(testing::HasSubstr("focus")));

@@ -45,6 +45,12 @@ class OnScreen : public testing::Test {
     widget.SetFocus();
     QApplication::processEvents();
   }
+  /// The desktop gives the window the focus again, after what opened before it has gone.
+  void comeBack() {
+    QApplication::processEvents();
+    QApplication::setActiveWindow(window.get());
+    QApplication::processEvents();
+  }
   void expectAgreement() {
     QApplication::processEvents();
     EXPECT_THAT(disagreements(platform, *panel), testing::IsEmpty());

@@ -33,6 +33,15 @@ TEST_F(QtPanel, ShowsWhatTheProgramWrites) {
   EXPECT_EQ(shown("Free").width(), shown("Free").logicalDpiX());
 }
 
+TEST_F(QtPanel, ACaptionThatIsCutIsToldWholeByTheTooltip) {
+  panel->label("Label").Caption("Una didascalia molto più lunga del suo posto");
+  platform.settle();
+  EXPECT_EQ(shown("Label").toolTip(), QStringLiteral("Spiegazione: Una didascalia molto più lunga del suo posto"));
+  panel->label("Label").Caption("Q:");
+  platform.settle();
+  EXPECT_EQ(shown("Label").toolTip(), QStringLiteral("Spiegazione"));
+}
+
 TEST_F(QtPanel, TabAndShiftTabFollowTheTabOrder) {
   focus(box());
   press(Qt::Key_Tab, "\t");
@@ -89,6 +98,47 @@ TEST_F(QtPanel, TheFocusLeavesForAFieldOfTheHostAndComesBack) {
   expectAgreement();
 }
 
+TEST_F(QtPanel, AnotherProgramsWindowTakesTheFocusFromNoField) {
+  std::vector<std::string> heard;
+  box().LostFocus = [&] { heard.emplace_back("lost"); };
+  box().GotFocus = [&] { heard.emplace_back("got"); };
+  focus(box());
+  write("12");
+  box().SelStart(1);
+  box().SelLength(1);
+  platform.settle();
+  for (int i = 0; i < 3; ++i) {
+    QApplication::setActiveWindow(nullptr);
+    QApplication::processEvents();
+    EXPECT_TRUE(box().hasFocus());
+    QApplication::setActiveWindow(window.get());
+    QApplication::processEvents();
+  }
+  EXPECT_THAT(heard, ElementsAre("got"));
+  EXPECT_EQ(line().selectedText(), "2");
+  expectAgreement();
+}
+
+TEST_F(QtPanel, AnotherWindowOfTheHostTakesTheFocusOnceAndGivesItBackOnce) {
+  std::vector<std::string> heard;
+  box().LostFocus = [&] { heard.emplace_back("lost"); };
+  box().GotFocus = [&] { heard.emplace_back("got"); };
+  focus(box());
+  QWidget another;
+  auto* field = new QLineEdit(&another);
+  another.show();
+  QApplication::setActiveWindow(&another);
+  field->setFocus();
+  QApplication::processEvents();
+  EXPECT_EQ(platform.focused(), nullptr);
+  EXPECT_TRUE(field->hasFocus());
+  QApplication::setActiveWindow(window.get());
+  line().setFocus();
+  QApplication::processEvents();
+  EXPECT_THAT(heard, ElementsAre("got", "lost", "got"));
+  expectAgreement();
+}
+
 TEST_F(QtPanel, AFieldThatIsSwitchedOffLosesTheFocusToNobody) {
   focus(box());
   box().Enabled(false);
@@ -127,13 +177,6 @@ TEST_F(QtPanel, HidesAndShowsAsThePanelSays) {
   QApplication::processEvents();
   EXPECT_TRUE(platform.widgetOf(*panel).isVisible());
   EXPECT_FALSE(platform.widgetOf(*panel).isEnabled());
-}
-
-TEST_F(QtPanel, EveryFieldHasANameToBeSpoken) {
-  for (toolkit::Widget* widget : panel->widgets()) {
-    EXPECT_FALSE(std::as_const(platform).widgetOf(*widget)->accessibleName().isEmpty()) << widget->Name();
-  }
-  EXPECT_EQ(shown("Button").accessibleName(), "Compagnie");
 }
 
 }  // namespace

@@ -2,7 +2,9 @@
 #pragma once
 
 #include <QApplication>
+#include <QDropEvent>
 #include <QKeyEvent>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QString>
 #include <gtest/gtest.h>
@@ -31,6 +33,40 @@ inline void clickAt(QWidget& widget, QPointF where, Qt::MouseButton button = Qt:
   QApplication::sendEvent(&widget, &down);
   QMouseEvent up(QEvent::MouseButtonRelease, where, global, button, Qt::NoButton, Qt::NoModifier);
   QApplication::sendEvent(&widget, &up);
+}
+
+/// Presses the button at one place, moves the mouse to another, and lets go.
+inline void drag(QWidget& widget, QPointF from, QPointF to) {
+  if ((widget.focusPolicy() & Qt::ClickFocus) != 0) widget.setFocus(Qt::MouseFocusReason);
+  QMouseEvent down(QEvent::MouseButtonPress, from, widget.mapToGlobal(from), Qt::LeftButton, Qt::LeftButton,
+                   Qt::NoModifier);
+  QApplication::sendEvent(&widget, &down);
+  QMouseEvent move(QEvent::MouseMove, to, widget.mapToGlobal(to), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&widget, &move);
+  QMouseEvent up(QEvent::MouseButtonRelease, to, widget.mapToGlobal(to), Qt::LeftButton, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(&widget, &up);
+}
+
+inline void doubleClickAt(QWidget& widget, QPointF where) {
+  clickAt(widget, where);
+  QMouseEvent twice(QEvent::MouseButtonDblClick, where, widget.mapToGlobal(where), Qt::LeftButton, Qt::LeftButton,
+                    Qt::NoModifier);
+  QApplication::sendEvent(&widget, &twice);
+  QMouseEvent up(QEvent::MouseButtonRelease, where, widget.mapToGlobal(where), Qt::LeftButton, Qt::NoButton,
+                 Qt::NoModifier);
+  QApplication::sendEvent(&widget, &up);
+}
+
+/// Lets go of a text, dragged from elsewhere, over a place of the widget. Whether the widget takes it.
+inline bool drop(QWidget& widget, const QString& text, QPointF where) {
+  QMimeData data;
+  data.setText(text);
+  QDragEnterEvent enter(where.toPoint(), Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&widget, &enter);
+  if (!enter.isAccepted()) return false;
+  QDropEvent dropped(where, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(&widget, &dropped);
+  return dropped.isAccepted() && dropped.dropAction() == Qt::CopyAction;
 }
 
 inline void click(QWidget& widget) { clickAt(widget, QPointF(widget.width() / 2.0, widget.height() / 2.0)); }
