@@ -32,9 +32,15 @@ void formatDouble(benchmark::State& state) {
 }
 BENCHMARK(formatDouble);
 
-void parseCurrency(benchmark::State& state) {
+std::vector<std::string> currencyTexts() {
   std::vector<std::string> texts;
-  for (Currency amount : amounts()) texts.push_back(format(amount, Pattern::Currency, kItalian).str());
+  texts.reserve(kSamples);
+  for (const Currency amount : amounts()) texts.push_back(format(amount, Pattern::Currency, kItalian).str());
+  return texts;
+}
+
+void parseCurrency(benchmark::State& state) {
+  const std::vector<std::string> texts = currencyTexts();
   Turn turn;
   const Counting counting(state);
   for ([[maybe_unused]] auto _ : state) {
@@ -42,6 +48,16 @@ void parseCurrency(benchmark::State& state) {
   }
 }
 BENCHMARK(parseCurrency);
+
+void parseDouble(benchmark::State& state) {
+  const std::vector<std::string> texts = currencyTexts();
+  Turn turn;
+  const Counting counting(state);
+  for ([[maybe_unused]] auto _ : state) {
+    benchmark::DoNotOptimize(toDouble(texts[turn.next()], kItalian));
+  }
+}
+BENCHMARK(parseDouble);
 
 void doubleToCurrency(benchmark::State& state) {
   doubles();

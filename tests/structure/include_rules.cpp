@@ -92,7 +92,7 @@ std::string_view folderIn(std::string_view house, std::string_view path) {
 constexpr std::array kFoundations{std::pair<std::string_view, std::string_view>{"platforms/qt/", "platforms/memory/"}};
 
 /// Where Qt may be included.
-constexpr std::string_view kQtRooms = "platforms/qt/ hosts/ufficio/ tests/qt/";
+constexpr std::string_view kQtRooms = "platforms/qt/ hosts/ufficio/ tests/qt/ tests/ufficio/ bench/";
 
 bool areStrangers(std::string_view a, std::string_view b) {
   for (const auto& [above, foundation] : kFoundations) {
