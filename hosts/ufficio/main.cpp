@@ -1,0 +1,89 @@
+// qvn-ufficio, the sample office.
+#include <QApplication>
+#include <QtGlobal>
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <exception>
+#include <iostream>
+#include <span>
+#include <string>
+
+#include "hosts/ufficio/arguments.h"
+#include "hosts/ufficio/pictures.h"
+#include "hosts/ufficio/register.h"
+#include "hosts/ufficio/window.h"
+#include "platforms/qt/platform.h"
+#include "platforms/sqlite/driver.h"
+#include "qvn/shared/Globale.h"
+
+namespace {
+
+using namespace qvn::ufficio;
+
+enum ExitStatus : int { kClosed = 0, kPicturesMissing = 1, kWrongUsage = 2, kNoDisplay = 3 };
+
+/// The library on its platform, for as long as it lives.
+class Installed {
+ public:
+  explicit Installed(qvn::toolkit::Platform& platform) { qvn::Globale::install(platform); }
+  ~Installed() { qvn::Globale::uninstall(); }
+  Installed(const Installed&) = delete;
+  Installed& operator=(const Installed&) = delete;
+};
+
+std::size_t numberOf(const std::string& screen) {
+  const std::span<const ScreenClass> classes = screenClasses();
+  const auto found = std::ranges::find(classes, screen, &ScreenClass::name);
+  if (found != classes.end()) return static_cast<std::size_t>(found - classes.begin());
+  if (screen.empty()) return 0;
+  std::string names;
+  for (const ScreenClass& made : classes) names.append(names.empty() ? "" : ", ").append(made.name);
+  throw WrongUsage("there is no screen " + screen + "; there is: " + names);
+}
+
+/// Qt ends a program that has none with an abort.
+bool displayIsThere() {
+#ifdef Q_OS_UNIX
+  constexpr std::array kDisplays{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+  return std::ranges::any_of(kDisplays, [](const char* name) { return !qEnvironmentVariableIsEmpty(name); });
+#else
+  return true;
+#endif
+}
+
+int run(const Arguments& arguments) {
+  const std::size_t first = numberOf(arguments.screen);
+  const bool window = arguments.pictures.empty();
+  if (window && !displayIsThere()) {
+    std::cerr << "qvn-ufficio: there is no display to open a window on\n";
+    return kNoDisplay;
+  }
+  qvn::qt::Platform platform(window ? qvn::qt::Display::Desktop : qvn::qt::Display::Offscreen);
+  platform.drivers().add(qvn::sqlite::driver());
+  const Installed installed(platform);
+  Store store(arguments.database);
+  Window office(platform, store, screenClasses());
+  if (!window) return writePictures(office, screenClasses(), arguments.pictures) ? kClosed : kPicturesMissing;
+  office.chooseScreen(first);
+  office.show();
+  office.chooser().focusFilter();
+  return QApplication::exec();
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    const Arguments arguments = argumentsOf(std::span(argv, static_cast<std::size_t>(argc)).subspan(1));
+    if (!arguments.help) return run(arguments);
+    std::cout << kUsage;
+    return kClosed;
+  } catch (const WrongUsage& wrong) {
+    std::cerr << "qvn-ufficio: " << wrong.what() << '\n' << kUsage;
+    return kWrongUsage;
+  } catch (const std::exception& unforeseen) {
+    std::cerr << "qvn-ufficio: " << unforeseen.what() << '\n';
+    return kPicturesMissing;
+  }
+}

@@ -1,0 +1,17 @@
+// The panels of a screen, one below the other, as they stand in the window.
+#pragma once
+
+#include <QWidget>
+
+#include "hosts/ufficio/screen.h"
+#include "platforms/qt/platform.h"
+
+namespace qvn::ufficio {
+
+/// Without a parent, for the window to place. The panels' widgets go with it or with the screen, whichever goes first.
+QWidget* makePage(qt::Platform& platform, const Screen& screen);
+
+/// Places the panels that the screen has added since, below the others of its page.
+void placeAdded(qt::Platform& platform, QWidget& page, const Screen& screen);
+
+}  // namespace qvn::ufficio

@@ -1,0 +1,14 @@
+// Pictures of the screens.
+#pragma once
+
+#include <string>
+
+#include "hosts/ufficio/window.h"
+
+namespace qvn::ufficio {
+
+/// Writes a picture of the window with each screen and its first record into the folder, which is made if it is not
+/// there: NAME.png. What cannot be done is told on standard error, and gives false.
+bool writePictures(Window& window, std::span<const ScreenClass> classes, const std::string& folder);
+
+}  // namespace qvn::ufficio

@@ -1,0 +1,62 @@
+#include "hosts/ufficio/reasons.h"
+
+#include <algorithm>
+#include <array>
+
+#include "hosts/ufficio/store_failure.h"
+#include "platforms/qt/texts.h"
+#include "qvn/shared/failure.h"
+
+namespace qvn::ufficio {
+
+namespace {
+
+const char* wordsOf(FailureKind kind) {
+  switch (kind) {
+    case FailureKind::TypeMismatch:
+      return "un valore manca o non è valido";
+    case FailureKind::Overflow:
+      return "un valore è troppo grande";
+    case FailureKind::DivisionByZero:
+      return "c'è una divisione per zero";
+    case FailureKind::InvalidUseOfNull:
+      return "nel database manca un valore";
+    case FailureKind::Database:
+      return "una ricerca nel database non è riuscita";
+    case FailureKind::SubscriptOutOfRange:
+    case FailureKind::InvalidCall:
+    case FailureKind::NoSuchMember:
+      break;
+  }
+  return "il programma ha sbagliato una richiesta";
+}
+
+struct EventWord {
+  QLatin1String event;
+  const char* spoken;
+};
+
+constexpr std::array kEvents{
+    EventWord{QLatin1String("KeyPress"), "tasto premuto"},
+    EventWord{QLatin1String("Change"), "nuovo contenuto"},
+    EventWord{QLatin1String("Click"), "scelta"},
+    EventWord{QLatin1String("GotFocus"), "entrata nel campo"},
+    EventWord{QLatin1String("LostFocus"), "uscita dal campo"},
+};
+
+}  // namespace
+
+QString reasonOf(const std::exception& failure) {
+  QString words = qt::shown(failure.what());
+  if (dynamic_cast<const StoreFailure*>(&failure) != nullptr) return words;
+  const auto* const ofLibrary = dynamic_cast<const Failure*>(&failure);
+  const char* const italian = ofLibrary == nullptr ? "c'è un errore imprevisto" : wordsOf(ofLibrary->kind());
+  return QString("%1 (%2)").arg(QString::fromUtf8(italian), words);
+}
+
+QString spokenEvent(const QString& event) {
+  const auto* const found = std::ranges::find_if(kEvents, [&](const EventWord& word) { return event == word.event; });
+  return found == kEvents.end() ? event : QString::fromUtf8(found->spoken);
+}
+
+}  // namespace qvn::ufficio

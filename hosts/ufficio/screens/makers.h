@@ -1,0 +1,21 @@
+// What makes each of the office's screens.
+#pragma once
+
+#include <memory>
+
+#include "hosts/ufficio/screen.h"
+
+namespace qvn::ufficio::screens {
+
+std::unique_ptr<Screen> vatCodes(const ScreenSite& site);
+std::unique_ptr<Screen> commissions(const ScreenSite& site);
+std::unique_ptr<Screen> vatLines(const ScreenSite& site);
+std::unique_ptr<Screen> policyQuotas(const ScreenSite& site);
+std::unique_ptr<Screen> claimQuotas(const ScreenSite& site);
+std::unique_ptr<Screen> titles(const ScreenSite& site);
+std::unique_ptr<Screen> statements(const ScreenSite& site);
+std::unique_ptr<Screen> creditLines(const ScreenSite& site);
+std::unique_ptr<Screen> policySearch(const ScreenSite& site);
+std::unique_ptr<Screen> claimSearch(const ScreenSite& site);
+
+}  // namespace qvn::ufficio::screens

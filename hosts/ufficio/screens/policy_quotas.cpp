@@ -1,0 +1,68 @@
+// The participants of a coinsured policy: ctlQ_POLIZZE on QUOTE_POLIZZE, with the policy's premiums in both families.
+#include <array>
+
+#include "hosts/ufficio/screens/makers.h"
+#include "hosts/ufficio/screens/quota_screen.h"
+
+namespace qvn::ufficio::screens {
+
+namespace {
+
+constexpr std::array<std::string_view, 1> kKey{"PROT"};
+
+constexpr std::array kFields{
+    Field{"COD_COMP", "COD_COMP", Kind::Text},
+    Field{"COD_PROD", "COD_PROD", Kind::Text},
+    Field{"COD_PROD_ALT", "COD_PROD_ALT", Kind::Text},
+    Field{"N_POLIZZA", "N_POLIZZA", Kind::Text},
+    Field{"D_RIMESSA", "D_RIMESSA", Kind::Day},
+    Field{"DELEGATARIA", "DELEGATARIA", Kind::Flag},
+    Field{"QUOTA", "QUOTA", Kind::Number},
+};
+
+constexpr std::array kHeads{Head{"TAF(0)", "TAF"}, Head{"TRF(0)", "TRF"}};
+
+constexpr RecordDescription kPolicyQuotas{
+    .panelClass = "ctlQ_POLIZZE",
+    .find =
+        "SELECT P.N_POLIZZA || '  ' || coalesce(C.DESC_CLIENTE, P.COD_CLIENTE) AS TESTO, P.PROT "
+        "FROM POLIZZE P LEFT JOIN CLIENTI C ON C.COD_CLIENTE = P.COD_CLIENTE "
+        "WHERE EXISTS (SELECT 1 FROM QUOTE_POLIZZE Q WHERE Q.PROT = P.PROT) "
+        "AND TESTO LIKE ?1 ESCAPE '\\' ORDER BY P.PROT LIMIT ?2",
+    .table = "QUOTE_POLIZZE",
+    .key = kKey,
+    .order = "COD_COMP",
+    .fields = kFields,
+    .panels = 12,
+    .heads = kHeads,
+};
+
+class PolicyQuotas final : public QuotaScreen {
+ public:
+  explicit PolicyQuotas(const ScreenSite& site) : QuotaScreen(kPolicyQuotas, site) {}
+
+ private:
+  /// Net premium, accessories and gross premium, each as TAF, as what goes to the lead alone, of which the office keeps
+  /// none, and as TRF.
+  CurrencyArray figures(Store& store, const Row& row) const override {
+    const std::vector<Row> policies = store.rows("SELECT * FROM POLIZZE WHERE PROT = ?1", std::array{row.at("PROT")});
+    if (policies.empty()) throw StoreFailure("la polizza di questa quota non c'è più");
+    const auto amount = [&](std::string_view column) { return amountOf(policies.front().at(column)); };
+    return {.extents = {3, 3},
+            .values = {amount("PN_TAF"),
+                       {},
+                       amount("PN_TRF"),  //
+                       amount("ACC_TAF"),
+                       {},
+                       amount("ACC_TRF"),  //
+                       amount("PL_TAF"),
+                       {},
+                       amount("PL_TRF")}};
+  }
+};
+
+}  // namespace
+
+std::unique_ptr<Screen> policyQuotas(const ScreenSite& site) { return std::make_unique<PolicyQuotas>(site); }
+
+}  // namespace qvn::ufficio::screens

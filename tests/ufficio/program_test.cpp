@@ -1,0 +1,78 @@
+// The program from its command line.
+#include <cstdlib>
+#include <filesystem>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <string>
+#include <sys/wait.h>
+
+#include "hosts/ufficio/register.h"
+#include "tests/office/office.h"
+
+namespace qvn::test {
+namespace {
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+std::string inQuotes(std::string_view text) { return std::string("'").append(text).append("'"); }
+
+/// Runs it with arguments as the shell reads them.
+office_test::Answer ufficio(std::string_view arguments, std::string_view before = {}) {
+  const office_test::Folder answers;
+  std::string command(before);
+  command.append(" '" QVN_UFFICIO "' ").append(arguments);
+  command.append(" >").append(inQuotes(answers.file("output"))).append(" 2>").append(inQuotes(answers.file("errors")));
+  const int status = std::system(command.c_str());
+  return {WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status),
+          office_test::contentsOf(answers.file("output")), office_test::contentsOf(answers.file("errors"))};
+}
+
+std::string picturing(const std::string& database, const std::string& folder) {
+  return inQuotes(database).append(" --picture ").append(inQuotes(folder));
+}
+
+TEST(OfficeProgram, WritesAPictureOfEachScreen) {
+  const office_test::Folder folder;
+  ASSERT_EQ(office_test::campione(inQuotes(folder.file("ufficio.db"))).status, 0);
+  const std::string pictures = folder.file("figure");
+  const office_test::Answer run = ufficio(picturing(folder.file("ufficio.db"), pictures));
+  EXPECT_EQ(run.status, 0) << run.errors;
+  for (const ufficio::ScreenClass& made : ufficio::screenClasses()) {
+    const std::string file = std::string(pictures).append("/").append(made.name).append(".png");
+    EXPECT_THAT(office_test::contentsOf(file), StartsWith("\x89PNG"));
+  }
+}
+
+TEST(OfficeProgram, TellsOfScreensWithoutRecordsToPicture) {
+  const office_test::Folder folder;
+  const office_test::Answer run = ufficio(picturing(folder.file("manca.db"), folder.file("figure")));
+  EXPECT_EQ(run.status, 1);
+  EXPECT_THAT(run.errors, HasSubstr("iva: no record to show"));
+}
+
+TEST(OfficeProgram, TellsOfAWrongCommandLine) {
+  for (const char* wrong :
+       {"--schermo", "--screen", "--screen NESSUNA", "--picture", "--picture ''", "a.db b.db", "''"}) {
+    const office_test::Answer run = ufficio(wrong, "QT_QPA_PLATFORM=offscreen");
+    EXPECT_EQ(run.status, 2) << wrong;
+    EXPECT_THAT(run.errors, HasSubstr("usage: qvn-ufficio")) << wrong;
+  }
+}
+
+TEST(OfficeProgram, TellsItsUse) {
+  const office_test::Answer run = ufficio("--help");
+  EXPECT_EQ(run.status, 0);
+  EXPECT_THAT(run.output, StartsWith("usage: qvn-ufficio"));
+  EXPECT_THAT(run.errors, IsEmpty());
+}
+
+TEST(OfficeProgram, TellsThatThereIsNoDisplay) {
+  const office_test::Answer run = ufficio("", "env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM");
+  EXPECT_EQ(run.status, 3);
+  EXPECT_THAT(run.errors, HasSubstr("no display"));
+}
+
+}  // namespace
+}  // namespace qvn::test

@@ -1,0 +1,238 @@
+// Where a record cannot be stored, and where changes might be lost.
+#include <QToolButton>
+
+#include "tests/ufficio/at_window.h"
+
+namespace qvn::test {
+namespace {
+
+using testing::HasSubstr;
+using ufficio::Unsaved;
+
+constexpr const char* kCode22 = "SELECT * FROM TIPI_IVA WHERE COD_IVA = 22";
+constexpr const char* kAsItWas = "22|Aliquota ordinaria|22|100";
+
+class OfficeSaving : public AtWindow {
+ public:
+  /// Opens code 22 and types another description.
+  void change() {
+    open("22  ");
+    edit();
+    press(Qt::Key_Return);
+    enter("altra");
+    ASSERT_TRUE(window().isWindowModified());
+  }
+  void expectTypedStays() {
+    EXPECT_EQ(field("txtDescrizione").text(), "ALTRA");
+    EXPECT_TRUE(window().editing());
+    EXPECT_TRUE(window().isWindowModified());
+    EXPECT_TRUE(field("txtDescrizione").isEnabled());
+    EXPECT_EQ(focused(), "TxtIVA") << "the field that was left to store";
+  }
+  /// Answers every question so, and counts them.
+  void answer(Unsaved answer) {
+    window().askBy([this, answer](const QString& record) {
+      EXPECT_EQ(record, "22  Aliquota ordinaria");
+      ++asked;
+      return answer;
+    });
+  }
+
+  int asked = 0;
+};
+
+TEST_F(OfficeSaving, KeepsWhatWasTypedWhileAnotherProgramWrites) {
+  change();
+  {
+    const Writer other(sample.file());
+    save();
+    EXPECT_THAT(notice().toStdString(), HasSubstr("Il record non è stato salvato: il database è occupato"));
+    expectTypedStays();
+  }
+  EXPECT_EQ(sample.line(kCode22), kAsItWas);
+  save();
+  EXPECT_EQ(sample.line(kCode22), "22|ALTRA|22|100");
+}
+
+TEST_F(OfficeSaving, NeverWritesOverAnothersChange) {
+  change();
+  // Of a column that was not typed into.
+  sample.write("UPDATE TIPI_IVA SET IVA = 21 WHERE COD_IVA = 22");
+  save();
+  EXPECT_THAT(notice().toStdString(), HasSubstr("nel frattempo il record è stato modificato o eliminato da altri"));
+  expectTypedStays();
+  EXPECT_EQ(sample.line(kCode22), "22|Aliquota ordinaria|21|100");
+}
+
+TEST_F(OfficeSaving, KeepsWhatWasTypedIntoARecordThatIsGone) {
+  change();
+  sample.write("DELETE FROM TIPI_IVA WHERE COD_IVA = 22");
+  save();
+  EXPECT_THAT(notice().toStdString(), HasSubstr("eliminato da altri"));
+  expectTypedStays();
+  EXPECT_EQ(sample.rows(kCode22).size(), 0U);
+}
+
+TEST_F(OfficeSaving, TellsOfACodeThatIsTaken) {
+  open("22  ");
+  edit();
+  enter("20");
+  save();
+  EXPECT_THAT(notice().toStdString(), HasSubstr("un codice che esiste già"));
+  EXPECT_EQ(field("TxtCodice").text(), "20");
+  EXPECT_EQ(sample.line(kCode22), kAsItWas);
+}
+
+TEST_F(OfficeSaving, TellsOfAValueThatIsMissing) {
+  open("22  ");
+  edit();
+  press(Qt::Key_A, Qt::ControlModifier);
+  press(Qt::Key_Delete);
+  EXPECT_TRUE(window().isWindowModified());
+  save();
+  EXPECT_THAT(notice().toStdString(), HasSubstr("Il record non è stato salvato: un valore manca o non è valido"));
+  EXPECT_EQ(focused(), "TxtCodice");
+  EXPECT_EQ(sample.line(kCode22), kAsItWas);
+}
+
+TEST_F(OfficeSaving, ClosesWithoutAQuestionWhereNothingWasChanged) {
+  open("22  ");
+  edit();
+  EXPECT_TRUE(window().close());
+}
+
+TEST_F(OfficeSaving, AsksBeforeItClosesAndStays) {
+  change();
+  answer(Unsaved::Stay);
+  EXPECT_FALSE(window().close());
+  EXPECT_TRUE(window().isVisible());
+  EXPECT_EQ(asked, 1);
+  expectTypedStays();
+}
+
+TEST_F(OfficeSaving, AsksBeforeItClosesAndSaves) {
+  change();
+  answer(Unsaved::Save);
+  EXPECT_TRUE(window().close());
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(sample.line(kCode22), "22|ALTRA|22|100");
+}
+
+TEST_F(OfficeSaving, AsksBeforeItClosesAndGivesUp) {
+  change();
+  answer(Unsaved::Discard);
+  EXPECT_TRUE(window().close());
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(sample.line(kCode22), kAsItWas);
+}
+
+TEST_F(OfficeSaving, DoesNotCloseWhereItCannotSave) {
+  change();
+  answer(Unsaved::Save);
+  sample.write("UPDATE TIPI_IVA SET IVA = 21 WHERE COD_IVA = 22");
+  EXPECT_FALSE(window().close());
+  expectTypedStays();
+}
+
+TEST_F(OfficeSaving, AsksBeforeAnotherRecord) {
+  change();
+  answer(Unsaved::Stay);
+  press(Qt::Key_F, Qt::ControlModifier);
+  write("telefonia");
+  press(Qt::Key_Return);
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(field("txtDescrizione").text(), "ALTRA");
+  EXPECT_TRUE(window().editing());
+  answer(Unsaved::Discard);
+  press(Qt::Key_F, Qt::ControlModifier);
+  press(Qt::Key_Return);
+  EXPECT_EQ(asked, 2);
+  EXPECT_EQ(field("TxtCodice").text(), "50");
+  EXPECT_FALSE(window().editing());
+  EXPECT_EQ(sample.line(kCode22), kAsItWas);
+}
+
+TEST_F(OfficeSaving, AsksBeforeAnotherScreenAndGoesBackInTheList) {
+  change();
+  answer(Unsaved::Stay);
+  choose("provvigioni");
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(window().findChild<QListWidget*>("schermate")->currentRow(), static_cast<int>(numberOf("iva")));
+  expectTypedStays();
+}
+
+TEST_F(OfficeSaving, ShowsTheRecordAsItIsOnComingBackToAScreen) {
+  change();
+  answer(Unsaved::Discard);
+  choose("provvigioni");
+  sample.write("UPDATE TIPI_IVA SET IVA = 21 WHERE COD_IVA = 22");
+  choose("iva");
+  EXPECT_EQ(notice(), "");
+  EXPECT_EQ(field("txtDescrizione").text(), "Aliquota ordinaria");
+  EXPECT_EQ(field("TxtIVA").text(), "21");
+}
+
+TEST_F(OfficeSaving, GivesChangesUpByCommand) {
+  change();
+  answer(Unsaved::Discard);
+  press(Qt::Key_Escape);
+  EXPECT_EQ(asked, 1);
+  EXPECT_FALSE(window().editing());
+  EXPECT_EQ(field("txtDescrizione").text(), "Aliquota ordinaria");
+  edit();
+  press(Qt::Key_Escape);
+  EXPECT_EQ(asked, 1) << "nothing was changed";
+  EXPECT_FALSE(window().editing());
+}
+
+TEST_F(OfficeSaving, StoresByTheMouse) {
+  change();
+  write("5");
+  for (QToolButton* button : window().findChildren<QToolButton*>()) {
+    if (button->defaultAction() == window().findChild<QAction*>("salva")) {
+      QTest::mouseClick(button, Qt::LeftButton);
+    }
+  }
+  see();
+  EXPECT_EQ(sample.line(kCode22), "22|ALTRA|5|100");
+  EXPECT_FALSE(window().editing());
+}
+
+TEST_F(OfficeSaving, GoesBackToTheFieldWhereTheSameRecordIsChosen) {
+  change();
+  press(Qt::Key_F, Qt::ControlModifier);
+  press(Qt::Key_Return);
+  EXPECT_TRUE(window().editing());
+  EXPECT_EQ(asked, 0);
+  EXPECT_EQ(focused(), "TxtIVA");
+  EXPECT_EQ(field("txtDescrizione").text(), "ALTRA");
+}
+
+TEST_F(OfficeSaving, TellsOfAHandlersFailureWithFieldAndReason) {
+  choose("righe-iva");
+  open("12  ");
+  edit();
+  enter("80");
+  enter("0");
+  enter("50");
+  EXPECT_THAT(notice().toStdString(), HasSubstr("Campo «IVA», tasto premuto: operazione non riuscita ("));
+  EXPECT_THAT(notice().toStdString(), HasSubstr("50 divided by a rate of 0"));
+}
+
+TEST_F(OfficeSaving, StoresNothingWhereTheFieldCannotBeLeft) {
+  choose("righe-iva");
+  open("12  ");
+  edit();
+  enter("80");
+  press(Qt::Key_Return);
+  write("50");
+  EXPECT_EQ(focused(), "TxtIVA");
+  save();
+  EXPECT_THAT(notice().toStdString(), HasSubstr("Campo «IVA», uscita dal campo"));
+  EXPECT_EQ(focused(), "TxtIVA");
+  EXPECT_TRUE(window().editing());
+  EXPECT_EQ(sample.rows("SELECT 1 FROM sqlite_master WHERE name = 'MOVIMENTI_IVA'").size(), 0U);
+}
+
+}  // namespace
+}  // namespace qvn::test

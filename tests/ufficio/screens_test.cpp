@@ -1,0 +1,179 @@
+// What holds of every screen of the register.
+#include <QAbstractButton>
+#include <QLabel>
+#include <ostream>
+
+#include "qvn/shared/conversions.h"
+#include "qvn/shared/database_numbers.h"
+#include "tests/ufficio/at_window.h"
+
+namespace qvn::ufficio {
+inline std::ostream& operator<<(std::ostream& out, const ScreenClass& made) { return out << made.name; }
+}  // namespace qvn::ufficio
+
+namespace qvn::test {
+namespace {
+
+using ufficio::Found;
+using ufficio::ScreenClass;
+
+class OfficeScreens : public testing::TestWithParam<ScreenClass> {
+ public:
+  OfficeScreens() { EXPECT_TRUE(window().chooseScreen(numberOf(GetParam().name))); }
+
+  ufficio::Window& window() { return *office.window; }
+  std::vector<Found> records() {
+    const auto found = window().chooser().records();
+    return {found.begin(), found.end()};
+  }
+
+  SampleCopy sample;
+  OfficeAt office{sample.file()};
+};
+
+TEST_P(OfficeScreens, FindsRecordsAndEachByItsOwnText) {
+  ASSERT_FALSE(records().empty());
+  for (const Found& record : records()) {
+    EXPECT_FALSE(record.text.empty());
+    EXPECT_FALSE(record.key.empty());
+  }
+  const Found last = records().back();
+  const std::vector<Found> again = window().screen()->find(office.store, last.text, 1000);
+  EXPECT_TRUE(std::ranges::any_of(again, [&](const Found& found) { return found.key == last.key; }));
+}
+
+TEST_P(OfficeScreens, ShowsRecordsAndFindsThemUnchanged) {
+  for (const Found& record : records()) {
+    ASSERT_TRUE(window().openRecord(record)) << record.text << ": " << window().notice().toStdString();
+    EXPECT_FALSE(window().screen()->changed()) << record.text;
+    EXPECT_EQ(window().screen()->key(), record.key);
+    EXPECT_TRUE(window().notice().isEmpty()) << window().notice().toStdString();
+  }
+}
+
+TEST_P(OfficeScreens, ChangesNothingByOpeningLeavingAndStoring) {
+  const std::string before = sample.everything();
+  std::vector<Found> some = records();
+  some.resize(std::min<std::size_t>(some.size(), 25));
+  for (const Found& record : some) {
+    ASSERT_TRUE(window().openRecord(record));
+    if (!window().screen()->editable()) continue;
+    ASSERT_TRUE(window().edit()) << window().notice().toStdString();
+    QApplication::processEvents();
+    EXPECT_FALSE(window().screen()->changed()) << record.text;
+    EXPECT_TRUE(window().save()) << window().notice().toStdString();
+  }
+  EXPECT_EQ(sample.everything(), before);
+}
+
+TEST_P(OfficeScreens, ClipsNoTextOfTheWindow) {
+  ASSERT_TRUE(window().openRecord(records().front()));
+  QApplication::processEvents();
+  for (const QLabel* label : window().findChildren<QLabel*>()) {
+    if (!label->isVisible() || label->wordWrap() || !label->objectName().isEmpty()) continue;
+    EXPECT_GE(label->width(), QFontMetrics(label->font()).horizontalAdvance(label->text()))
+        << label->text().toStdString();
+  }
+  for (Panel* panel : window().screen()->panels()) {
+    const QWidget& widget = office.platform.widgetOf(panel->surface());
+    if (!widget.isVisible()) continue;
+    EXPECT_GE(widget.visibleRegion().boundingRect().width(), widget.width()) << "the panel is wider than its place";
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Register, OfficeScreens,
+                         testing::ValuesIn(ufficio::screenClasses().begin(), ufficio::screenClasses().end()),
+                         [](const auto& made) {
+                           std::string name(made.param.name);
+                           std::ranges::replace(name, '-', '_');
+                           return name;
+                         });
+
+/// What a property of a screen's panel is to give: the number or text of a statement on the record's row.
+struct Given {
+  std::string_view property;
+  std::string_view column;
+};
+
+struct Loaded {
+  std::string_view screen;
+  std::string_view table;
+  std::vector<Given> given;
+};
+
+/// The number of a text as a count of ten-thousandths; the text itself where it is no number.
+std::string counted(const Variant& value) {
+  try {
+    return std::to_string(as<Currency>(value, kDatabaseForm).tenThousandths());
+  } catch (const Failure&) {
+    return as<std::string>(value, kDatabaseForm);
+  }
+}
+
+/// Every record that the screen lists gives by its properties what the table holds, `where` telling the row.
+void expectGiven(const Loaded& loaded, const std::string& where) {
+  const SampleCopy sample;
+  const OfficeAt office(sample.file());
+  const office_test::Database database(sample.file());
+  ASSERT_TRUE(office.window->chooseScreen(numberOf(loaded.screen)));
+  const auto records = office.window->chooser().records();
+  ASSERT_FALSE(records.empty());
+  for (const Found& record : std::vector<Found>(records.begin(), records.end())) {
+    ASSERT_TRUE(office.window->openRecord(record));
+    Panel& panel = *office.window->screen()->panels().front();
+    std::string its = where;
+    for (const ufficio::Value& value : record.key) {
+      its.replace(its.find('?'), 1, std::string("'").append(ufficio::textOf(value)).append("'"));
+    }
+    for (const Given& given : loaded.given) {
+      std::string sql = "SELECT " + std::string(given.column) + " FROM " + std::string(loaded.table);
+      EXPECT_EQ(counted(getByName(panel, given.property)), counted(database.text(sql.append(its))))
+          << record.text << ' ' << given.property;
+    }
+  }
+}
+
+TEST(OfficeScreenOfVatCodes, GivesWhatTheTableHolds) {
+  expectGiven(
+      {.screen = "iva",
+       .table = "TIPI_IVA",
+       .given = {{"Codice", "COD_IVA"}, {"DESCRIZIONE", "DESCRIZIONE"}, {"IVA", "IVA"}, {"Deb_Dec", "Deb_Dec"}}},
+      " WHERE COD_IVA = ?");
+}
+
+TEST(OfficeScreenOfCommissions, GivesWhatTheTableHoldsInTheFamilyThatCounts) {
+  const std::string both = " JOIN POLIZZE P USING (PROT) WHERE PROT = ? AND COD_COMP = ?";
+  const auto current = [](std::string_view column) {
+    const std::string name(column);
+    return "CASE U_CALCOLO WHEN 'TRF' THEN " + name + "_TRF ELSE " + name + "_TAF END";
+  };
+  const std::string amounts[] = {current("PN_UFF"),      current("ACC_UFF"),      current("AQ_UFF"),
+                                 current("pn_prod"),     current("acc_prod"),     current("aq_prod"),
+                                 current("pn_prod_ALT"), current("acc_prod_ALT"), current("aq_prod_ALT")};
+  expectGiven({.screen = "provvigioni",
+               .table = "QUOTE_POLIZZE",
+               .given = {{"PN_UFF", amounts[0]},
+                         {"ACC_UFF", amounts[1]},
+                         {"AQ_UFF", amounts[2]},
+                         {"PN_PROD", amounts[3]},
+                         {"ACC_PROD", amounts[4]},
+                         {"AQ_PROD", amounts[5]},
+                         {"PN_PROD_ALT", amounts[6]},
+                         {"ACC_PROD_ALT", amounts[7]},
+                         {"AQ_PROD_ALT", amounts[8]},
+                         {"QUOTA", "QUOTA"},
+                         {"COD_COMPAGNIA", "COD_COMP"},
+                         {"COD_PRODUTTORE", "coalesce(COD_PROD, '')"},
+                         {"COD_PRODUTTORE_ALT", "COD_PROD_ALT"}}},
+              both);
+}
+
+TEST(OfficeScreenOfVatLines, GivesNothingForAMovementWithoutALine) {
+  expectGiven({.screen = "righe-iva",
+               .table = "(SELECT 0 AS ZERO)",
+               .given = {{"COD_IVA", "ZERO"}, {"IMPONIBILE", "ZERO"}, {"IVA", "ZERO"}}},
+              " WHERE 0 < ?");
+}
+
+}  // namespace
+}  // namespace qvn::test
