@@ -245,6 +245,24 @@ class PlainPanel : public OnPlatform {
     EXPECT_TRUE(frame().Enabled());
     EXPECT_EQ(focused(), field().Name());
   }
+  void disattivaPassesAFailureOn(const std::function<toolkit::EditableText&()>& field) {
+    whereItRefuses("Frame1",
+                   [this] { EXPECT_FAILURE(panel->Disattiva(), FailureKind::InvalidCall, "Frame1 refuses"); });
+    ready();
+    field().LostFocus = [] { throw Failure(FailureKind::Overflow, "on leaving"); };
+    EXPECT_FAILURE(panel->Disattiva(), FailureKind::Overflow, "on leaving");
+    EXPECT_FALSE(frame().Enabled());
+  }
+  /// Enter goes from the first field to the second, selecting and colouring the one that it leads to.
+  void enterLeads(const std::string& from, const std::string& to) {
+    box(from).Text("UNO");
+    box(to).Text("DUE");
+    hands().focus(box(from));
+    EXPECT_EQ(pathOf("{Enter}", 1), Strings{to});
+    EXPECT_TRUE(wholeSelected(box(to)));
+    EXPECT_EQ(box(to).BackColor(), kCyan);
+    EXPECT_EQ(box(from).BackColor(), toolkit::kWhite);
+  }
   void typedInto(toolkit::TextBox& field, std::string_view keys, std::string_view text, std::int64_t refused) {
     SCOPED_TRACE(field.Name());
     hands().focus(field);

@@ -45,7 +45,9 @@ void ComboBox::ListIndex(std::int32_t index) {
 
 void ComboBox::Text(std::string_view text) {
   const std::string written = utf8::valid(text);
-  if (written != Text()) ListIndex(indexOf(written));
+  if (written != Text()) return ListIndex(indexOf(written));
+  if (current_ >= 0) return;
+  if (const std::int32_t blank = find(written); blank >= 0) ListIndex(blank);
 }
 
 std::int32_t ComboBox::find(std::string_view text) const {

@@ -40,6 +40,18 @@ void wire(toolkit::TextBox& box, std::string_view property, Filter filter, std::
   box.LostFocus = [&box] { Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kAtRest); };
 }
 
+void colourThenSelect(toolkit::TextBox& box, std::int16_t state) {
+  box.GotFocus = [&box, state] {
+    Gest_SCHEDE::ColoreFuoco(box, state);
+    Gest_SCHEDE::SelezionaTutto(box);
+  };
+}
+
+void wireColouredFirst(toolkit::TextBox& box, std::string_view property, Filter filter, std::int16_t limit) {
+  wire(box, property, filter, limit);
+  colourThenSelect(box, Gest_SCHEDE::kFocused);
+}
+
 void wirePercent(toolkit::TextBox& box, std::string_view property) {
   wire(box, property, Gest_SCHEDE::FiltroCifre, 3);
   box.Change = [&box, property] {

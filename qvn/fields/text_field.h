@@ -21,6 +21,13 @@ using Filter = void (*)(toolkit::TextBox&, std::int16_t&, std::int16_t);
 /// live as long as the program.
 void wire(toolkit::TextBox& box, std::string_view property, Filter filter, std::int16_t limit);
 
+/// Sets what gaining the focus does, for a field that is coloured by a state of ColoreFuoco before its text is
+/// selected.
+void colourThenSelect(toolkit::TextBox& box, std::int16_t state);
+
+/// Wires a plain field as wire() does, but for the order: it is coloured before its text is selected.
+void wireColouredFirst(toolkit::TextBox& box, std::string_view property, Filter filter, std::int16_t limit);
+
 /// Wires a field of whole percents: as above, of at most three digits, and each change once announced is kept to 100 at
 /// most. An empty field becomes "0", a value above 100 becomes "100", and what was corrected is selected, so that
 /// the next digit replaces it. A text that is no number fails with "type mismatch", one beyond 16 bits with

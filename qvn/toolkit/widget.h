@@ -133,8 +133,8 @@ class ComboBox : public Widget {
 
   /// The current item's text, empty for none.
   virtual std::string Text() const = 0;
-  /// Makes the first item with that text, exact in case, current and raises Click; does nothing if it is shown already,
-  /// as the empty text is while no item is current. "invalid call" if no item has the text, the empty one included.
+  /// Makes the first item with that text, exact in case, current and raises Click; does nothing if an item with it is
+  /// current, or if none is and the text is empty and no item's. "invalid call" if no item has the text otherwise.
   virtual void Text(std::string_view text) = 0;
 
   std::function<void()> Click;

@@ -30,6 +30,14 @@ TEST_P(ComboBox, WritingTheTextThatIsShownDoesNothing) {
   EXPECT_THAT(heard, ElementsAre("click"));
 }
 
+TEST_P(ComboBox, WritingTheEmptyTextSelectsABlankItemThatIsNotCurrent) {
+  list().AddItem("");
+  list().Click = [this] { heard.push_back(std::to_string(list().ListIndex())); };
+  list().Text("");
+  list().Text("");
+  EXPECT_THAT(heard, ElementsAre("4"));
+}
+
 TEST_P(ComboBox, WritingATextThatNoItemHasFails) {
   list().Text("Due");
   list().Click = hears("click");

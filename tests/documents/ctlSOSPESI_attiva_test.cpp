@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include "tests/documents/title_bench.h"
+#include "tests/noting_platform.h"
+#include "tests/refusing_platform.h"
 
 namespace qvn::test {
 namespace {
@@ -119,14 +121,13 @@ TEST_P(TitleAttiva, ReactivatingIsOpenToAnybody) {
   EXPECT_EQ(heard(), visits(2));
 }
 
-TEST_P(TitleAttiva, WithNothingPendingCancellingGoesAndNothingIsSelected) {
+TEST_P(TitleAttiva, WithNothingPendingCancellingGoesAndTheBlankItemIsSelected) {
   title("S", "");
   panel->Attiva(false);
   EXPECT_EQ(items(), (Strings{"", "COPRI", "INCASSA"}));
   EXPECT_EQ(panel->N_STATO(), text(""));
-  // Once the current item has gone the list shows the empty text already.
-  EXPECT_EQ(actions().ListIndex(), -1);
-  EXPECT_EQ(heard(), visits(4));
+  EXPECT_EQ(actions().ListIndex(), 0);
+  EXPECT_EQ(heard(), visits(5));
 }
 
 TEST_P(TitleAttiva, WithNothingPendingAndNothingToWithdrawTheBlankItemIsSelected) {
@@ -309,6 +310,46 @@ TEST_P(TitleAttiva, BothGoInAnyOrderAnyNumberOfTimes) {
   EXPECT_TRUE(noneEnabled());
   panel->Attiva(false);
   EXPECT_TRUE(allEnabled());
+}
+
+TEST_P(TitleAttiva, EachStepOfAttivaAndDisattivaInOrder) {
+  NotingPlatform noting(platform());
+  Globale::install(noting);
+  panel = another("titolo");
+  noting.notes.clear();
+  panel->Attiva(true);
+  EXPECT_EQ(noting.notes, (Notes{"TxtDATA_C.Enabled true", "TxtDATA_DOC.Enabled true", "CmbTIPO_CONT.Enabled true",
+                                 "TxtDATA_C.SelStart 0", "TxtDATA_C.SelLength 10", "TxtDATA_C.SetFocus "}));
+  noting.notes.clear();
+  panel->Disattiva();
+  EXPECT_EQ(noting.notes,
+            (Notes{"TxtDATA_C.Enabled false", "TxtDATA_DOC.Enabled false", "CmbTIPO_CONT.Enabled false"}));
+  panel.reset();
+  Globale::install(platform());
+}
+
+TEST_P(TitleAttiva, SkipsEachStepThatIsRefused) {
+  for (const std::string name : {"TxtDATA_C", "TxtDATA_DOC"}) {
+    RefusingPlatform refusing(platform());
+    refusing.refusingToBeEnabled = {name};
+    Globale::install(refusing);
+    panel = another("titolo");
+    panel->Attiva(true);
+    for (const std::string other : {"TxtDATA_C", "TxtDATA_DOC"}) EXPECT_EQ(date(other).Enabled(), other != name);
+    EXPECT_TRUE(actions().Enabled());
+    EXPECT_FAILURE(panel->Disattiva(), FailureKind::InvalidCall, name);
+    EXPECT_TRUE(actions().Enabled());
+    panel.reset();
+    Globale::install(platform());
+  }
+  RefusingPlatform refusing(platform());
+  refusing.refusing = {"TxtDATA_C"};
+  Globale::install(refusing);
+  panel = another("titolo");
+  panel->Attiva(true);
+  EXPECT_EQ(focused(), "TxtDATA_C");
+  panel.reset();
+  Globale::install(platform());
 }
 
 }  // namespace

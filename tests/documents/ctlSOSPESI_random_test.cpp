@@ -66,7 +66,7 @@ struct Model {
       notices += items.size();
       current = static_cast<int>(items.size()) - 1;
     }
-    if (shown() != kept && placeOf(kept) != kNone) select(placeOf(kept));
+    if (placeOf(kept) != kNone && current != placeOf(kept)) select(placeOf(kept));
   }
   bool pick(int place) {
     if (!enabled || place >= static_cast<int>(items.size())) return false;

@@ -292,5 +292,20 @@ TEST_P(TitleViewers, ThePanelMayBeDroppedWhereTheDatabaseIsAskedFor) {
   }
 }
 
+TEST_P(TitleViewers, TheNumbersAreReadOnceTheDatabaseWasAskedFor) {
+  for (const View& view : views()) {
+    Globale::unload();
+    panel->PROG(std::int16_t{1});
+    const Subscription subscription = Globale::Eventi()->MancaDB.subscribe([&] {
+      Globale::Eventi()->ImpostaDB("failing:fake:ufficio");
+      label("LblPROT").Caption("8");
+    });
+    forget();
+    press(view.button);
+    EXPECT_NE(asked().back().find("PROT = 8 AND"), std::string::npos);
+    label("LblPROT").Caption("7");
+  }
+}
+
 }  // namespace
 }  // namespace qvn::test

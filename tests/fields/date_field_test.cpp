@@ -9,6 +9,7 @@
 #include "qvn/fields/Gest_SCHEDE.h"
 #include "tests/failure_matchers.h"
 #include "tests/fields/field_bench.h"
+#include "tests/fields/stub_field.h"
 
 namespace qvn::test {
 namespace {
@@ -184,6 +185,30 @@ TEST(NoDate, IsTheDateOfZeroOrItsText) {
   }
   EXPECT_FALSE(fields::isNoDate(Null{}));
   EXPECT_FALSE(fields::isNoDate(CurrencyArray{}));
+}
+
+TEST_P(DateFields, AnEnterIsCancelledBeforeTheDateIsCompleted) {
+  fields::wire(date(), "DATA", EnterKey::Cancelled);
+  container().onNotice = [](toolkit::Surface&, std::string_view) {
+    throw Failure(FailureKind::InvalidCall, "the host refuses");
+  };
+  std::int16_t key = 13;
+  EXPECT_FAILURE(date().KeyPress(key), FailureKind::InvalidCall, "the host refuses");
+  EXPECT_EQ(key, 0);
+}
+
+TEST_P(DateFields, AreComparedBeforeTheyAreWritten) {
+  StubDate stub(panel(), date().layout());
+  stub.value = text("05/03/2026");
+  fields::showDate(stub, day(5, 3, 2026));
+  fields::showDate(stub, Null{});
+  EXPECT_EQ(stub.valueWrites + stub.textWrites, 0);
+  stub.value = Null{};
+  fields::showDate(stub, Date());
+  EXPECT_EQ(stub.valueWrites, 1);  // Null again
+  stub.value = text("30/12/1899");
+  fields::showDate(stub, Date());
+  EXPECT_EQ(stub.valueWrites, 1);
 }
 
 }  // namespace

@@ -112,24 +112,13 @@ TEST_P(MovementTypePanel, DisattivaFreezesAndKeepsTheValues) {
 }
 
 TEST_P(MovementTypePanel, DisattivaPassesAFailureOn) {
-  whereItRefuses("Frame1", [this] { EXPECT_FAILURE(panel->Disattiva(), FailureKind::InvalidCall, "Frame1 refuses"); });
-  ready();
-  code().LostFocus = [] { throw Failure(FailureKind::Overflow, "on leaving"); };
-  EXPECT_FAILURE(panel->Disattiva(), FailureKind::Overflow, "on leaving");
-  EXPECT_FALSE(frame().Enabled());
+  disattivaPassesAFailureOn([this]() -> toolkit::EditableText& { return code(); });
 }
 
 TEST_P(MovementTypePanel, EnterGoesBetweenTheTwoFieldsSelectingAndColouringEach) {
-  panel->COD_MOVIMENTO(7);
-  panel->DESCRIZIONE("INCASSO");
   panel->Attiva();
-  EXPECT_THAT(pathOf("{Enter}", 1), ElementsAre("txtDescrizione"));
-  EXPECT_TRUE(wholeSelected(description()));
-  EXPECT_EQ(description().BackColor(), kCyan);
-  EXPECT_EQ(code().BackColor(), toolkit::kWhite);
-  EXPECT_THAT(pathOf("{Enter}", 1), ElementsAre("TxtCodice"));
-  EXPECT_TRUE(wholeSelected(code()));
-  EXPECT_EQ(description().BackColor(), toolkit::kWhite);
+  enterLeads("TxtCodice", "txtDescrizione");
+  enterLeads("txtDescrizione", "TxtCodice");
 }
 
 TEST_P(MovementTypePanel, TheTextIsSelectedBeforeTheFieldIsColoured) {

@@ -90,11 +90,7 @@ TEST_P(AccountingPrintPanel, DisattivaFreezesAndKeepsTheValues) {
 }
 
 TEST_P(AccountingPrintPanel, DisattivaPassesAFailureOn) {
-  whereItRefuses("Frame1", [this] { EXPECT_FAILURE(panel->Disattiva(), FailureKind::InvalidCall, "Frame1 refuses"); });
-  ready();
-  code().LostFocus = [] { throw Failure(FailureKind::Overflow, "on leaving"); };
-  EXPECT_FAILURE(panel->Disattiva(), FailureKind::Overflow, "on leaving");
-  EXPECT_FALSE(frame().Enabled());
+  disattivaPassesAFailureOn([this]() -> toolkit::EditableText& { return code(); });
 }
 
 TEST_P(AccountingPrintPanel, TypedLettersBecomeCapitalsUpToFive) {
@@ -114,16 +110,9 @@ TEST_P(AccountingPrintPanel, EachFieldHasItsFilterAndLimit) {
 }
 
 TEST_P(AccountingPrintPanel, EnterGoesBetweenTheTwoFieldsSelectingAndColouringEach) {
-  panel->Codice("GI");
-  panel->DESCRIZIONE("GIORNALE");
   panel->Attiva();
-  EXPECT_THAT(pathOf("{Enter}", 1), ElementsAre("txtDescrizione"));
-  EXPECT_TRUE(wholeSelected(description()));
-  EXPECT_EQ(description().BackColor(), kCyan);
-  EXPECT_EQ(code().BackColor(), toolkit::kWhite);
-  EXPECT_THAT(pathOf("{Enter}", 1), ElementsAre("TxtCodice"));
-  EXPECT_TRUE(wholeSelected(code()));
-  EXPECT_EQ(description().BackColor(), toolkit::kWhite);
+  enterLeads("TxtCodice", "txtDescrizione");
+  enterLeads("txtDescrizione", "TxtCodice");
 }
 
 TEST_P(AccountingPrintPanel, TheTextIsSelectedBeforeTheFieldIsColoured) {

@@ -1,6 +1,7 @@
 // Attiva and Disattiva, the way of the Enter key, and panels that cannot take the focus.
 #include <gtest/gtest.h>
 
+#include "tests/noting_platform.h"
 #include "tests/quotas/quota_bench.h"
 #include "tests/refusing_platform.h"
 
@@ -209,6 +210,41 @@ TEST_P(QuotaState, EnterAsksNothingAndTellsNothing) {
     EXPECT_THAT(heard(), IsEmpty());
     EXPECT_THAT(asked(), IsEmpty());
     EXPECT_EQ(text("TxtQUOTA"), "0");
+  });
+}
+
+TEST_P(QuotaState, EachStepOfAttivaInOrder) {
+  withBoth([&](std::string_view className) {
+    NotingPlatform noting(platform());
+    Globale::install(noting);
+    make(className);
+    quota(5);
+    noting.notes.clear();
+    call("Attiva");
+    Notes wanted;
+    for (const std::string& name : fieldsOf(className)) wanted.push_back(name + ".Enabled true");
+    for (const auto* last : {"TxtQUOTA.SelStart 0", "TxtQUOTA.SelLength 1", "TxtQUOTA.SetFocus "})
+      wanted.push_back(last);
+    EXPECT_EQ(noting.notes, wanted);
+    noting.notes.clear();
+    let("DELEGATARIA", false);
+    EXPECT_EQ(noting.notes, className == "ctlQ_POLIZZE" ? Notes{} : Notes{"ChkDELEGATARIA.Value 0"});
+    panel.reset();
+    Globale::install(platform());
+  });
+}
+
+TEST_P(QuotaState, TheFieldsAreColouredBeforeTheyAreSelected) {
+  withBoth([&](std::string_view className) {
+    NotingPlatform noting(platform());
+    Globale::install(noting);
+    make(className);
+    noting.notes.clear();
+    box("TxtCOD_COMP").GotFocus();
+    EXPECT_EQ(noting.notes,
+              (Notes{"TxtCOD_COMP.BackColor 16776960", "TxtCOD_COMP.SelStart 0", "TxtCOD_COMP.SelLength 0"}));
+    panel.reset();
+    Globale::install(platform());
   });
 }
 

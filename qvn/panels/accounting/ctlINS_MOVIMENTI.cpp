@@ -79,14 +79,6 @@ void sideChanged(toolkit::ComboBox& list) {
   if (!side.empty()) list.BackColor(colourOf(side));
 }
 
-void wireDescription(toolkit::TextBox& box, std::string_view property) {
-  fields::wire(box, property, Gest_SCHEDE::FiltroTesto, 50);
-  box.GotFocus = [&box] {
-    Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kFocused);
-    Gest_SCHEDE::SelezionaTutto(box);
-  };
-}
-
 void wireAmount(toolkit::TextBox& box, std::string_view property) {
   fields::wire(box, property, Gest_SCHEDE::FiltroNumero, 2);
   box.GotFocus = [&box] {
@@ -121,8 +113,8 @@ void ctlINS_MOVIMENTI::wire() {
   accounting::wire(key);
   txtMASTRO_.KeyPress = [key](std::int16_t& KeyAscii) { mastroKey(key, KeyAscii); };
 
-  wireDescription(TxtDESC_1_, "DESC_1");
-  wireDescription(TxtDESC_2_, "DESC_2");
+  fields::wireColouredFirst(TxtDESC_1_, "DESC_1", Gest_SCHEDE::FiltroTesto, 50);
+  fields::wireColouredFirst(TxtDESC_2_, "DESC_2", Gest_SCHEDE::FiltroTesto, 50);
   cmbTIPO_.Click = [&list = cmbTIPO_] { sideChanged(list); };  // no colour of the focus: it keeps its red or green
   wireAmount(TxtIMPORTO_, "IMPORTO");
 }

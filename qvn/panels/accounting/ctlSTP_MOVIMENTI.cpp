@@ -76,12 +76,7 @@ ctlSTP_MOVIMENTI::ctlSTP_MOVIMENTI(const PanelSite& site)
       LblDATA_RIF_(surface_->label("LblDATA_RIF")),
       LblRIF_(surface_->label("LblRIF")),
       LblIMPORTO_(surface_->label("LblIMPORTO")) {
-  toolkit::TextBox& flag = TxtFLAG_;
-  fields::wire(flag, "FLAG", Gest_SCHEDE::FiltroTesto, 3);
-  flag.GotFocus = [&flag] {
-    Gest_SCHEDE::ColoreFuoco(flag, Gest_SCHEDE::kFocused);
-    Gest_SCHEDE::SelezionaTutto(flag);
-  };
+  fields::wireColouredFirst(TxtFLAG_, "FLAG", Gest_SCHEDE::FiltroTesto, 3);
 }
 
 std::string ctlSTP_MOVIMENTI::FLAG() const { return TxtFLAG_.Text(); }

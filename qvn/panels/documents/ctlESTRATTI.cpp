@@ -222,10 +222,10 @@ void ctlESTRATTI::wire() {
   documents::wireWithList(TxtSIGLA_SRAMO_, "SIGLA_SRAMO");
   TxtSIGLA_SRAMO_.KeyPress = [&initials = TxtSIGLA_SRAMO_](std::int16_t& KeyAscii) { initialsKey(initials, KeyAscii); };
   documents::wireCode(TxtCOD_CLI_, "COD_CLIENTE", QVN_Ricerche::ListaCLIENTI, 6);
-  fields::wire(TxtN_POLIZZA_, "N_POLIZZA", Gest_SCHEDE::FiltroTesto, 15);
+  fields::wireColouredFirst(TxtN_POLIZZA_, "N_POLIZZA", Gest_SCHEDE::FiltroTesto, 15);
   fields::wire(TxtDATA_QUIET_, "DATA_QUIET", fields::EnterKey::LeftToTheField);
   wireCheck(ChkANNULLATA_, "ANN");
-  fields::wire(TxtINT_ASS_, "INT_ASS", Gest_SCHEDE::FiltroTesto, 20);
+  fields::wireColouredFirst(TxtINT_ASS_, "INT_ASS", Gest_SCHEDE::FiltroTesto, 20);
   wireAmount(TxtPREMIO_, "PREMIO");
   wireAmount(TxtRIMBORSO_, "RIMBORSO");
   wireAmount(TxtPROVVIGIONE_, "PROVVIGIONE");

@@ -7,10 +7,7 @@ namespace qvn::documents {
 
 void wireWithList(toolkit::TextBox& box, std::string_view property) {
   box.Change = [&box, property] { fields::announce(box, property); };
-  box.GotFocus = [&box] {
-    Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kFocusedWithList);
-    Gest_SCHEDE::SelezionaTutto(box);
-  };
+  fields::colourThenSelect(box, Gest_SCHEDE::kFocusedWithList);
   box.LostFocus = [&box] { Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kAtRest); };
 }
 

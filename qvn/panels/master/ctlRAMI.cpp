@@ -55,15 +55,6 @@ constexpr std::array<toolkit::WidgetLayout, 7> kWidgets{{
 
 constexpr toolkit::PanelLayout kLayout{.name = "ctlRAMI", .width = 6795, .height = 1245, .widgets = kWidgets};
 
-/// A plain field that is coloured before its text is selected.
-void wireText(toolkit::TextBox& box, std::string_view property, std::int16_t limit) {
-  fields::wire(box, property, Gest_SCHEDE::FiltroTesto, limit);
-  box.GotFocus = [&box] {
-    Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kFocused);
-    Gest_SCHEDE::SelezionaTutto(box);
-  };
-}
-
 }  // namespace
 
 ctlRAMI::ctlRAMI(const PanelSite& site)
@@ -77,8 +68,8 @@ ctlRAMI::ctlRAMI(const PanelSite& site)
 }
 
 void ctlRAMI::wire() {
-  wireText(TxtCOD_RAMO_, "COD_RAMO", 2);
-  wireText(txtDescrizione_, "DESCRIZIONE", 50);
+  fields::wireColouredFirst(TxtCOD_RAMO_, "COD_RAMO", Gest_SCHEDE::FiltroTesto, 2);
+  fields::wireColouredFirst(txtDescrizione_, "DESCRIZIONE", Gest_SCHEDE::FiltroTesto, 50);
 
   toolkit::ComboBox& screens = CmbTIPO_SK_;
   screens.Click = [&screens] { fields::announce(screens, "TIPO_SK"); };

@@ -152,7 +152,7 @@ void ctlQ_POLIZZE::wire() {
   quotas::wireCode(TxtCOD_PROD_ALT_, "COD_PROD_ALT", QVN_Ricerche::ListaPRODUTTORI, 8,
                    surface_->label("DESC_PRODUTTORE_ALT"),
                    [](std::string& code) { return QVN_Ricerche::CercaPRODUTTORE(code, true); });
-  fields::wire(TxtN_POLIZZA_, "N_POLIZZA", Gest_SCHEDE::FiltroTesto, 15);
+  fields::wireColouredFirst(TxtN_POLIZZA_, "N_POLIZZA", Gest_SCHEDE::FiltroTesto, 15);
   fields::wire(TxtD_RIMESSA_, "D_RIMESSA", fields::EnterKey::Cancelled);
   ChkDELEGATARIA_.Click = [&lead = ChkDELEGATARIA_] { fields::announce(lead, "DELEGATARIA"); };
 }

@@ -93,8 +93,8 @@ void ctlQ_SINISTRI::wire() {
   ChkDELEGATARIA_.Click = [&lead = ChkDELEGATARIA_] { fields::announce(lead, "DELEGATARIA"); };
   quotas::wireCode(TxtCOD_COMP_, "COD_COMP", QVN_Ricerche::ListaCOMPAGNIE, 5, surface_->label("DESC_COMPAGNIA"),
                    QVN_Ricerche::CercaCOMPAGNIA);
-  fields::wire(TxtN_POLIZZA_, "N_POLIZZA", Gest_SCHEDE::FiltroTesto, 15);
-  fields::wire(TxtN_SINISTRO_, "N_SINISTRO_COMP", Gest_SCHEDE::FiltroTesto, 20);
+  fields::wireColouredFirst(TxtN_POLIZZA_, "N_POLIZZA", Gest_SCHEDE::FiltroTesto, 15);
+  fields::wireColouredFirst(TxtN_SINISTRO_, "N_SINISTRO_COMP", Gest_SCHEDE::FiltroTesto, 20);
 }
 
 void ctlQ_SINISTRI::Calcola_QUOTA(const std::int16_t& xQUOTA) {

@@ -34,7 +34,7 @@ void quotaChanged(toolkit::TextBox& box, const Apply& apply) {
 }  // namespace
 
 void wireQuota(toolkit::TextBox& box, Apply apply) {
-  fields::wire(box, "QUOTA", Gest_SCHEDE::FiltroCifre, 4);
+  fields::wireColouredFirst(box, "QUOTA", Gest_SCHEDE::FiltroCifre, 4);
   box.Change = [&box, apply = std::move(apply)] { quotaChanged(box, apply); };
 }
 
@@ -59,7 +59,7 @@ void showShare(toolkit::Label& label, Currency whole, std::int16_t thousandths) 
 
 void wireCode(toolkit::TextBox& box, std::string_view property, lookups::ListFunction list, std::int16_t limit,
               toolkit::Label& description, Lookup lookup) {
-  fields::wire(box, property, Gest_SCHEDE::FiltroTesto, limit);
+  fields::wireColouredFirst(box, property, Gest_SCHEDE::FiltroTesto, limit);
   box.KeyPress = [&box, list, limit](std::int16_t& KeyAscii) {
     lookups::keyOrList(box, KeyAscii, list, Gest_SCHEDE::FiltroTesto, limit);
   };
