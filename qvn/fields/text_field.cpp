@@ -52,6 +52,19 @@ void wireColouredFirst(toolkit::TextBox& box, std::string_view property, Filter 
   colourThenSelect(box, Gest_SCHEDE::kFocused);
 }
 
+void wireAmount(toolkit::TextBox& box, Filter filter) {
+  box.GotFocus = [&box] {
+    Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kFocused);
+    rewrite(box, Pattern::TwoDecimals);
+    Gest_SCHEDE::SelezionaTutto(box);
+  };
+  box.KeyPress = [&box, filter](std::int16_t& KeyAscii) { filter(box, KeyAscii, 2); };
+  box.LostFocus = [&box] {
+    Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kAtRest);
+    rewrite(box, Pattern::Currency);
+  };
+}
+
 void wirePercent(toolkit::TextBox& box, std::string_view property) {
   wire(box, property, Gest_SCHEDE::FiltroCifre, 3);
   box.Change = [&box, property] {

@@ -28,6 +28,11 @@ void colourThenSelect(toolkit::TextBox& box, std::int16_t state);
 /// Wires a plain field as wire() does, but for the order: it is coloured before its text is selected.
 void wireColouredFirst(toolkit::TextBox& box, std::string_view property, Filter filter, std::int16_t limit);
 
+/// Wires a field of an amount of at most two decimals, but for its Change: gaining the focus colours it, rewrites it
+/// under "0.00" and selects it, keys pass the filter, losing the focus takes the colour away and rewrites it under
+/// "Currency".
+void wireAmount(toolkit::TextBox& box, Filter filter);
+
 /// Wires a field of whole percents: as above, of at most three digits, and each change once announced is kept to 100 at
 /// most. An empty field becomes "0", a value above 100 becomes "100", and what was corrected is selected, so that
 /// the next digit replaces it. A text that is no number fails with "type mismatch", one beyond 16 bits with

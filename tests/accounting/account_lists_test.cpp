@@ -174,6 +174,7 @@ TEST_P(AccountLists, AnAccountIsTakenFromTheAccountsAndTheLedgerIsWrittenFirst) 
     EXPECT_EQ(openedBy("?"), "Elenco CONTI");
     EXPECT_THAT(key(), ElementsAre("20", "002"));
     EXPECT_TRUE(wholeSelected(conto()));
+    expectSelected(mastro(), 0, 0);
     EXPECT_THAT(heard(), ElementsAre("MASTRO", "CONTO"));
     EXPECT_THAT(asked(), ElementsAre(accountsSql("10", "0"), accountSql("20", "0"), accountSql("20", "002")));
     EXPECT_EQ(description(), "CONTO PREMI");

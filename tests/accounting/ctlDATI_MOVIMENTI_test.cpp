@@ -210,6 +210,31 @@ TEST_P(TemplateLine, AKindCanBeWrittenWithoutVat) {
   EXPECT_EQ(read("TIPO_IVA"), "C");
 }
 
+TEST_P(TemplateLine, EverythingIsWrittenWhateverTheWidgetsShow) {
+  const auto load = [this] {
+    write("PROGRESSIVO", "3");
+    let("IVA", true);
+    write("Mastro", "20");
+    write("Conto", "002");
+    write("DESC_CONTO", "a mano");
+    let("RIPETI", true);
+    write("TIPO", "D");
+    write("TIPO_IVA", "C");
+  };
+  const Notes all{
+      "lblPROGRESSIVO.Caption 3",     "ChkIVA.Value 1",    "txtMASTRO.Text 20", "TxtCONTO.Text 002",
+      "lblDESC_CONTO.Caption a mano", "ChkRIPETI.Value 1", "cmbTIPO.Text DARE", "CmbTIPO_IVA.Text CORRISPETTIVI"};
+  EXPECT_EQ(writesOf(kTemplate, load), all);
+  EXPECT_EQ(writesOf(kTemplate, load, load), all);
+}
+
+TEST_P(TemplateLine, AttivaSelectsTheLedgerBeforeItGoesThere) {
+  EXPECT_THAT(
+      writesOf(
+          kTemplate, [this] { call("Attiva"); }, [this] { write("Mastro", "20"); }),
+      ElementsAre("Frame1.Enabled true", "txtMASTRO.SelStart 0", "txtMASTRO.SelLength 2", "txtMASTRO.SetFocus "));
+}
+
 TEST_P(TemplateLine, APropertyWritesNoOtherField) {
   write("PROGRESSIVO", "1");
   write("Mastro", "M");

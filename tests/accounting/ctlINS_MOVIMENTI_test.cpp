@@ -134,6 +134,40 @@ TEST_P(MovementLine, TwoLinesKeepTheirOwnSides) {
   EXPECT_EQ(other.surface().comboBox("cmbTIPO").BackColor(), kGreen);
 }
 
+TEST_P(MovementLine, AllButTheDescriptionOfTheKeyIsWrittenOnlyWhereItDiffers) {
+  const auto load = [this] {
+    write("Mastro", "20");
+    write("Conto", "002");
+    write("DESC_CONTO", "a mano");
+    write("TIPO", "D");
+    write("DESC_1", "UNO");
+    write("DESC_2", "DUE");
+    let("IMPORTO", money("3"));
+  };
+  EXPECT_THAT(
+      writesOf(kEntry, load),
+      ElementsAre("txtMASTRO.Text 20", "TxtCONTO.Text 002", "LblDESC_CONTO.Caption a mano", "cmbTIPO.Text DARE",
+                  "cmbTIPO.BackColor 255", "TxtDESC_1.Text UNO", "TxtDESC_2.Text DUE", "TxtIMPORTO.Text € 3,00"));
+  EXPECT_THAT(writesOf(kEntry, load, load), ElementsAre("LblDESC_CONTO.Caption a mano", "cmbTIPO.BackColor 255"));
+}
+
+TEST_P(MovementLine, AttivaSelectsTheLedgerBeforeItGoesThere) {
+  EXPECT_THAT(
+      writesOf(
+          kEntry, [this] { call("Attiva"); }, [this] { write("Mastro", "20"); }),
+      ElementsAre("Frame1.Enabled true", "txtMASTRO.SelStart 0", "txtMASTRO.SelLength 2", "txtMASTRO.SetFocus "));
+}
+
+TEST_P(MovementLine, TheColourIsThatOfWhatTheListShowsBehindTheAnnouncement) {
+  bool once = true;
+  container().onNotice = [&](toolkit::Surface&, std::string_view) {
+    if (std::exchange(once, false)) write("TIPO", "A");
+  };
+  hands().choose(side(), "DARE");
+  container().onNotice = {};
+  expectSide("A", "AVERE", kGreen);
+}
+
 // The lines of description.
 
 TEST_P(MovementLine, DescriptionsAreWrittenAnnouncedAndNotWrittenTwice) {

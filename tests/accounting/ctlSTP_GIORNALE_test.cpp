@@ -12,6 +12,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using toolkit::Align;
+using toolkit::kBlack;
 using toolkit::kWhite;
 using toolkit::WidgetKind;
 
@@ -150,6 +151,30 @@ TEST_P(JournalHeader, TheFirstDayIsWrittenOnlyWhereItDiffers) {
               ElementsAre("LblDA_DATA.Caption ##/##/####"));
 }
 
+TEST_P(JournalHeader, TheDateOfZeroIsFirstComparedAsTheDayThatThePatternGives) {
+  panel->DA_DATA(text("30/12/1899"));
+  panel->DA_DATA(Date());
+  EXPECT_EQ(first(), "30/12/1899");
+  panel->DA_DATA(text("0.00.00"));
+  EXPECT_EQ(first(), kMask);
+}
+
+TEST_P(JournalHeader, FiguresAreThoseOfThePlatformsLocale) {
+  setLocale({.decimalSign = '.', .groupingSign = ','});
+  panel->DARE(money("1500,5"));
+  panel->AVERE(money("-1500,5"));
+  EXPECT_EQ(caption("LblDARE"), "€ 1,500.50");
+  EXPECT_EQ(caption("LblAVERE"), "-€ 1,500.50");
+  panel->DARE(money("1500,5"));
+  EXPECT_EQ(caption("LblDARE"), "€ 1,500.50");
+}
+
+TEST_P(JournalHeader, AnEqualCountStaysInTheFormThatItHas) {
+  surface().label("LblNRighe").Caption("1.500");
+  panel->N_RIGHE(1500);
+  EXPECT_EQ(caption("LblNRighe"), "1.500");
+}
+
 TEST_P(JournalHeader, TheLastDayIsTheFieldsDateAndAnnounced) {
   panel->A_DATA(day(31, 3, 2026));
   EXPECT_EQ(last().Text(), "31/03/2026");
@@ -220,6 +245,16 @@ TEST_P(JournalHeader, TheEnterIsCancelledAndEveryOtherKeyLeft) {
   }
   std::int16_t enter = 13;
   last().KeyPress(enter);
+  EXPECT_EQ(enter, 0);
+}
+
+TEST_P(JournalHeader, TheEnterIsCancelledBeforeTheDateIsCompleted) {
+  container().onNotice = [](toolkit::Surface&, std::string_view) {
+    throw Failure(FailureKind::InvalidCall, "the host refuses");
+  };
+  std::int16_t enter = 13;
+  EXPECT_FAILURE(last().KeyPress(enter), FailureKind::InvalidCall, "refuses");
+  container().onNotice = {};
   EXPECT_EQ(enter, 0);
 }
 

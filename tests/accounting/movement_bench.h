@@ -17,6 +17,7 @@
 #include "qvn/shared/conversions.h"
 #include "tests/failing_query.h"
 #include "tests/failure_matchers.h"
+#include "tests/noting_platform.h"
 #include "tests/on_platform.h"
 
 namespace qvn::test {
@@ -118,6 +119,19 @@ class MovementBench : public OnPlatform {
   void write(std::string_view name, std::string text) { let(name, std::move(text)); }
   std::string read(std::string_view name) { return std::get<std::string>(getByName(*panel, name)); }
   bool flag(std::string_view name) { return std::get<bool>(getByName(*panel, name)); }
+  /// What the act writes to the widgets of a new panel, changed or not, once it was prepared.
+  Notes writesOf(
+      std::string_view className, const std::function<void()>& act, const std::function<void()>& prepare = [] {}) {
+    NotingPlatform noting(platform());
+    Globale::install(noting);
+    make(className);
+    prepare();
+    noting.notes.clear();
+    act();
+    panel.reset();
+    Globale::install(platform());
+    return noting.notes;
+  }
   /// The announcements since it was last asked, in order.
   Strings heard() { return std::exchange(container().notices, {}); }
   void forget() {

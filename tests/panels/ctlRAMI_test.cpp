@@ -104,6 +104,12 @@ TEST_P(BranchPanel, OnlyWhatDiffersIsWritten) {
               ElementsAre("TxtCOD_RAMO.Text fd", "txtDescrizione.Text Fideiussioni"));
 }
 
+TEST_P(BranchPanel, CompetenzeIsComparedBeforeItIsRounded) {
+  const auto write = [this](std::string_view state) { return [this, state] { panel->competenze(state); }; };
+  EXPECT_THAT(writesOf(write("1,4"), write("1")), ElementsAre("ckCompetenze.Value 1"));
+  EXPECT_THAT(writesOf(write("1,00"), write("1")), IsEmpty());
+}
+
 TEST_P(BranchPanel, EachKindOfScreenHasItsNumber) {
   for (const auto& [number, item] : kKinds) {
     panel->TIPO_SK(number);

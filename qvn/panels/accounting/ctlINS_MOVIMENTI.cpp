@@ -79,19 +79,6 @@ void sideChanged(toolkit::ComboBox& list) {
   if (!side.empty()) list.BackColor(colourOf(side));
 }
 
-void wireAmount(toolkit::TextBox& box, std::string_view property) {
-  fields::wire(box, property, Gest_SCHEDE::FiltroNumero, 2);
-  box.GotFocus = [&box] {
-    Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kFocused);
-    fields::rewrite(box, Pattern::TwoDecimals);
-    Gest_SCHEDE::SelezionaTutto(box);
-  };
-  box.LostFocus = [&box] {
-    Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kAtRest);
-    fields::rewrite(box, Pattern::Currency);
-  };
-}
-
 }  // namespace
 
 ctlINS_MOVIMENTI::ctlINS_MOVIMENTI(const PanelSite& site)
@@ -116,7 +103,8 @@ void ctlINS_MOVIMENTI::wire() {
   fields::wireColouredFirst(TxtDESC_1_, "DESC_1", Gest_SCHEDE::FiltroTesto, 50);
   fields::wireColouredFirst(TxtDESC_2_, "DESC_2", Gest_SCHEDE::FiltroTesto, 50);
   cmbTIPO_.Click = [&list = cmbTIPO_] { sideChanged(list); };  // no colour of the focus: it keeps its red or green
-  wireAmount(TxtIMPORTO_, "IMPORTO");
+  TxtIMPORTO_.Change = [&amount = TxtIMPORTO_] { fields::announce(amount, "IMPORTO"); };
+  fields::wireAmount(TxtIMPORTO_, Gest_SCHEDE::FiltroNumero);
 }
 
 void ctlINS_MOVIMENTI::Disattiva() { Frame1_.Enabled(false); }

@@ -125,7 +125,7 @@ constexpr std::int16_t kTicked = 1;
 constexpr std::int16_t kNotTicked = 0;
 
 void wireAmount(toolkit::TextBox& field, std::string_view property) {
-  documents::wireAmount(field, Gest_SCHEDE::FiltroImporto);
+  fields::wireAmount(field, Gest_SCHEDE::FiltroImporto);
   field.Change = [&field, property] {
     fields::announce(field, property);
     if (!field.Text().empty()) return;

@@ -123,7 +123,7 @@ void ctlFIDO::wire() {
   fields::wire(TxtDATA_FIDO_, "DATA_FIDO", fields::EnterKey::LeftToTheField);
 
   toolkit::TextBox& amount = TxtIMPORTO_;
-  documents::wireAmount(amount, Gest_SCHEDE::FiltroNumero);
+  fields::wireAmount(amount, Gest_SCHEDE::FiltroNumero);
   amount.Change = [&amount] { amountChanged(amount); };
 }
 

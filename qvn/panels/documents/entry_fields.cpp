@@ -18,17 +18,4 @@ void wireCode(toolkit::TextBox& box, std::string_view property, lookups::ListFun
   };
 }
 
-void wireAmount(toolkit::TextBox& box, fields::Filter filter) {
-  box.GotFocus = [&box] {
-    Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kFocused);
-    fields::rewrite(box, Pattern::TwoDecimals);
-    Gest_SCHEDE::SelezionaTutto(box);
-  };
-  box.KeyPress = [&box, filter](std::int16_t& KeyAscii) { filter(box, KeyAscii, 2); };
-  box.LostFocus = [&box] {
-    Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kAtRest);
-    fields::rewrite(box, Pattern::Currency);
-  };
-}
-
 }  // namespace qvn::documents

@@ -17,9 +17,4 @@ void wireWithList(toolkit::TextBox& box, std::string_view property);
 /// Wires one of a code of at most so many characters: as above, and "?" opens the list for what is in the field.
 void wireCode(toolkit::TextBox& box, std::string_view property, lookups::ListFunction list, std::int16_t limit);
 
-/// Wires a field of an amount of at most two decimals, but for its Change: gaining the focus colours it, rewrites it
-/// under "0.00" and selects it, keys pass the filter, losing the focus takes the colour away and rewrites it under
-/// "Currency".
-void wireAmount(toolkit::TextBox& box, fields::Filter filter);
-
 }  // namespace qvn::documents
