@@ -11,7 +11,7 @@ void Announcements::PropertyChanged(toolkit::Surface& panel, std::string_view na
 
 void Announcements::handlerFailed(toolkit::Surface& panel, toolkit::Widget& widget, std::string_view event,
                                   const Failure& failure) noexcept {
-  emit failed(shown(panel.name()), shown(widget.Name()), shown(event), shown(failure.what()));
+  emit failed(shown(panel.name()), shown(widget.Name()), shown(event), shown(failure.what()), failure.kind());
 }
 
 }  // namespace qvn::qt

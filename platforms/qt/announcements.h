@@ -24,7 +24,8 @@ class Announcements final : public QObject, public toolkit::Container {
   /// A public property of the panel of that name has changed.
   void changed(const QString& panel, const QString& property);
   /// A handler that the operator's hand started has failed.
-  void failed(const QString& panel, const QString& widget, const QString& event, const QString& message);
+  void failed(const QString& panel, const QString& widget, const QString& event, const QString& message,
+              qvn::FailureKind kind);
 };
 
 }  // namespace qvn::qt

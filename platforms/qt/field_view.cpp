@@ -167,7 +167,14 @@ void FieldView::keyPressEvent(QKeyEvent* event) {
 
 void FieldView::inputMethodEvent(QInputMethodEvent* event) {
   if (!byPerson()) return;
-  if (!event->preeditString().isEmpty() && hasSelectedText()) {
+  const bool replaces = event->replacementLength() > 0;
+  if (replaces) {
+    const int from =
+        (hasSelectedText() ? static_cast<int>(selectionStart()) : cursorPosition()) + event->replacementStart();
+    const int first = std::clamp(from, 0, static_cast<int>(text().size()));
+    setSelection(first, std::clamp(from + event->replacementLength(), first, static_cast<int>(text().size())) - first);
+  }
+  if ((replaces || !event->preeditString().isEmpty()) && hasSelectedText()) {
     edit([&] { onScreen().press(*subject(), std::array{kDelete}); });
   }
   QInputMethodEvent composing(event->preeditString(), event->attributes());

@@ -12,11 +12,21 @@
 
 namespace qvn::qt {
 
+namespace {
+
+/// How much of a form's size is its frame, in twips.
+constexpr std::int32_t kFrameWidth = 120;
+constexpr std::int32_t kFrameHeight = 465;
+
+}  // namespace
+
 FormWindow::FormWindow(Screen& screen, PanelWidget& inside) : screen_(screen) {
   setWindowModality(Qt::ApplicationModal);
   setObjectName(inside.objectName());
   inside.setParent(this);
   setFixedSize(inside.size());
+  const toolkit::PanelLayout& layout = inside.surface()->layout();
+  place_ = {.width = layout.width + kFrameWidth, .height = layout.height + kFrameHeight};
   inside.show();
 }
 
@@ -35,9 +45,10 @@ void FormWindow::showForm() {
   if (form_ == nullptr) return;
   setWindowTitle(shown(form_->Caption()));
   const toolkit::Place place = form_->place();
-  if (place.left != 0 || place.top != 0) {
-    move(screen()->geometry().topLeft() + QPoint(pixels(place.left, logicalDpiX()), pixels(place.top, logicalDpiY())));
-  }
+  if (place == place_) return;
+  place_ = place;
+  setFixedSize(pixels(place.width - kFrameWidth, logicalDpiX()), pixels(place.height - kFrameHeight, logicalDpiY()));
+  move(screen()->geometry().topLeft() + QPoint(pixels(place.left, logicalDpiX()), pixels(place.top, logicalDpiY())));
 }
 
 void FormWindow::keyPressEvent(QKeyEvent* event) {

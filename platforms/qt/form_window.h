@@ -19,7 +19,7 @@ class FormWindow final : public QDialog {
   memory::Form* form() const { return form_; }
   void stand(memory::Form& form);
   void leave();
-  /// Shows the form's caption and place.
+  /// Shows the form's caption, and its place where that is another than it was; the desktop finds the first.
   void showForm();
   /// Nothing: Escape is a key like any other.
   void reject() override {}
@@ -31,6 +31,7 @@ class FormWindow final : public QDialog {
  private:
   Screen& screen_;
   memory::Form* form_ = nullptr;
+  toolkit::Place place_;
 };
 
 }  // namespace qvn::qt

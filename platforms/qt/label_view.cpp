@@ -7,7 +7,6 @@
 
 #include "platforms/qt/captions.h"
 #include "platforms/qt/colours.h"
-#include "platforms/qt/spoken_names.h"
 #include "platforms/qt/texts.h"
 #include "platforms/qt/twips.h"
 
@@ -38,7 +37,7 @@ void LabelView::showContent() {
   const QString tip = shown(subject()->ToolTip());
   const bool cut = !wordWrap() && shownText() != caption;
   setToolTip(cut ? (tip.isEmpty() ? caption : tip + QStringLiteral(": ") + caption) : tip);
-  if (bordered_) setAccessibleName(spokenName(*subject()) + QStringLiteral(": ") + caption);
+  if (bordered_) setAccessibleName(spokenName_ + QStringLiteral(": ") + caption);
 }
 
 QString LabelView::shownText() const {

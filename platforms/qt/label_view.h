@@ -13,6 +13,8 @@ class LabelView final : public QLabel, public View {
  public:
   LabelView(Screen& screen, toolkit::Label& model, QWidget& parent);
   QWidget& widget() override { return *this; }
+  /// What an assistive program says before the value of a label that shows one.
+  void call(const QString& spokenName) { spokenName_ = spokenName; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
@@ -24,6 +26,7 @@ class LabelView final : public QLabel, public View {
   QString shownText() const;
 
   bool bordered_;
+  QString spokenName_;
 };
 
 /// What stands for a data control, which shows nothing of its own.

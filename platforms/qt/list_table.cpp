@@ -19,9 +19,10 @@ Qt::Alignment alignmentOf(const toolkit::DataGrid& grid, int column) {
 
 template <class Table>
 QVariant TableRows<Table>::data(const QModelIndex& index, int role) const {
-  // A view may ask for what it last saw before it is told of what has become of it.
+  // The tooltip tells whole what a narrow column cuts. A view may ask for what it last saw before it is told of what
+  // has become of it.
   if (index.row() < 0 || index.row() >= rowCount() || index.column() >= columnCount()) return {};
-  if (role == Qt::DisplayRole) return shown(table_->text(index.row(), index.column()));
+  if (role == Qt::DisplayRole || role == Qt::ToolTipRole) return shown(table_->text(index.row(), index.column()));
   if (role == Qt::TextAlignmentRole) return QVariant(alignmentOf(*table_, index.column()) | Qt::AlignVCenter);
   return {};
 }

@@ -59,11 +59,12 @@ View* makeView(Screen& screen, toolkit::Widget& model, QWidget& parent) {
 PanelWidget::PanelWidget(Screen& screen, memory::Surface& surface) : screen_(screen), surface_(&surface) {
   setObjectName(shown(surface.name()));
   QFont font = this->font();
-  font.setPixelSize(pixels(kFontHeight, logicalDpiY()));
+  font.setPixelSize(static_cast<int>(kFontHeight * logicalDpiY() / kTwipsPerInch));  // one more may not fit
   setFont(font);
   setFixedSize(pixels(surface.layout().width, logicalDpiX()), pixels(surface.layout().height, logicalDpiY()));
   views_.reserve(surface.widgets().size());
-  for (toolkit::Widget* widget : surface.widgets()) make(*widget);
+  const SpokenNames names = spokenNames(surface.layout());
+  for (toolkit::Widget* widget : surface.widgets()) make(*widget, names.at(widget->Name()));
   setOrder();
   showFlags();
 }
@@ -72,7 +73,7 @@ PanelWidget::~PanelWidget() {
   if (surface_ != nullptr) screen_.forget(*this);  // without one, the screen may be gone
 }
 
-void PanelWidget::make(toolkit::Widget& widget) {
+void PanelWidget::make(toolkit::Widget& widget, const QString& spokenName) {
   QWidget* parent = this;
   if (widget.frame() != nullptr) parent = &viewOf(*widget.frame())->widget();
   View* view = makeView(screen_, widget, *parent);
@@ -83,8 +84,9 @@ void PanelWidget::make(toolkit::Widget& widget) {
   made.setToolTip(shown(row.tooltip));
   if (row.kind == toolkit::WidgetKind::Label) {
     made.lower();  // beneath the fields that it is laid out over, which the mouse then reaches
+    dynamic_cast<LabelView&>(made).call(spokenName);
   } else {
-    made.setAccessibleName(spokenName(widget));
+    made.setAccessibleName(spokenName);
   }
   if (row.bold) {
     QFont bold = made.font();

@@ -21,6 +21,8 @@ class PanelWidget final : public QWidget {
   View* viewOf(const toolkit::Widget& widget) const;
   /// Shows the flags of the panel itself.
   void showFlags();
+  /// Gives the focus to what follows in the window, or stands before, as Qt goes about it. False if there is nothing.
+  bool passFocusOn(bool forwards) { return focusNextPrevChild(forwards); }
   /// The surface goes.
   void detach();
   const std::unordered_map<const toolkit::Widget*, View*>& views() const { return views_; }
@@ -32,7 +34,7 @@ class PanelWidget final : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
-  void make(toolkit::Widget& widget);
+  void make(toolkit::Widget& widget, const QString& spokenName);
   void setOrder();
 
   Screen& screen_;

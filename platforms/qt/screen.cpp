@@ -72,7 +72,9 @@ void Screen::changed(const toolkit::Widget& widget) {
   if (View* view = panel.viewOf(widget)) markStale(*view);
   if (widget.Kind() == toolkit::WidgetKind::DataControl) {
     for (const auto& [other, view] : panel.views()) {
-      if (other->Kind() == toolkit::WidgetKind::DataGrid) markStale(*view);
+      if (other->Kind() != toolkit::WidgetKind::DataGrid) continue;
+      view->sourceChanged();
+      markStale(*view);
     }
   }
   marked_ = &widget;
@@ -210,7 +212,28 @@ void Screen::reach(toolkit::Widget& widget) {
   if (memory::canHoldFocus(widget)) platform_.hands().focus(widget);
 }
 
+bool Screen::leavePanel(const toolkit::Widget& from, const memory::Key& key) {
+  const bool backwards = key.name == memory::KeyName::ShiftTab;
+  if (!backwards && key.name != memory::KeyName::Tab) return false;
+  const auto& surface = static_cast<const memory::Surface&>(from.owner());
+  if (!from.hasFocus() || surface.isOfForm()) return false;
+  bool listedBefore = true;
+  for (const toolkit::Widget* other : surface.widgets()) {
+    if (other == &from) {
+      listedBefore = false;
+    } else if (memory::canHoldFocus(*other)) {
+      const bool alike = other->TabIndex() == from.TabIndex();
+      const bool before = alike ? listedBefore : other->TabIndex() < from.TabIndex();
+      if (before == backwards) return false;
+    }
+  }
+  settle();  // Qt skips what it shows as switched off or hidden
+  const auto panel = panels_.find(&surface);
+  return panel != panels_.end() && panel->second->passFocusOn(!backwards);
+}
+
 void Screen::press(toolkit::Widget& widget, std::span<const memory::Key> keys) {
+  if (keys.size() == 1 && leavePanel(widget, keys.front())) return;
   act(widget, "KeyPress", [&](memory::Hands& hands) {
     reach(widget);
     if (!widget.hasFocus()) return;

@@ -85,6 +85,8 @@ class Screen final : public memory::Stage {
   void showFocus();
   void focusWentTo(QWidget* now);
   FormWindow* windowOf(const memory::Form& form) const;
+  /// Lets Tab leave a panel at its last stop, and Shift+Tab at its first. False if the key does not lead out.
+  bool leavePanel(const toolkit::Widget& from, const memory::Key& key);
   void discard(PanelWidget& panel) noexcept;
 
   memory::Platform& platform_;

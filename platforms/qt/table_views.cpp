@@ -4,6 +4,7 @@
 #include <QHeaderView>
 #include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
 #include "platforms/qt/colours.h"
 #include "platforms/qt/screen.h"
@@ -106,6 +107,11 @@ QPalette GridWidget::paletteFor(std::uint32_t back, std::uint32_t fore) const {
 }
 
 void GridWidget::showContent() {
+  std::vector<toolkit::DataGrid::Column> columns;
+  columns.reserve(static_cast<std::size_t>(grid().columnCount()));
+  for (std::int32_t i = 0; i < grid().columnCount(); ++i) columns.push_back(grid().column(i));
+  if (!std::exchange(sourceChanged_, false) && columns == shownColumns_) return;
+  shownColumns_ = std::move(columns);
   rows_.renew();
   resizeColumnsToContents();
   giveRestToWidest();

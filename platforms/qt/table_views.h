@@ -3,6 +3,7 @@
 
 #include <QTableView>
 #include <cstdint>
+#include <vector>
 
 #include "platforms/memory/list_view.h"
 #include "platforms/qt/list_table.h"
@@ -36,18 +37,22 @@ class GridWidget final : public QTableView, public View {
  public:
   GridWidget(Screen& screen, toolkit::DataGrid& model, QWidget& parent);
   QWidget& widget() override { return *this; }
+  void sourceChanged() override { sourceChanged_ = true; }
 
  protected:
   bool event(QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
+  toolkit::DataGrid& grid() const { return static_cast<toolkit::DataGrid&>(*subject()); }
   void showContent() override;
   /// Makes the widest column as wide as the others leave room.
   void giveRestToWidest();
   QPalette paletteFor(std::uint32_t back, std::uint32_t fore) const override;
 
   TableRows<toolkit::DataGrid>& rows_;
+  std::vector<toolkit::DataGrid::Column> shownColumns_;
+  bool sourceChanged_ = true;
 };
 
 }  // namespace qvn::qt

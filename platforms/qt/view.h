@@ -26,6 +26,8 @@ class View {
 
   /// Shows what the model says now.
   void showSubject();
+  /// What it shows the rows of has others now.
+  virtual void sourceChanged() {}
   /// The widget goes: nothing that is done here reaches it any more.
   void letGo() { subject_ = nullptr; }
   /// After the desktop's colours or fonts have changed.

@@ -1,5 +1,6 @@
 // A field under a person's hands.
 #include <QClipboard>
+#include <QImage>
 #include <QInputMethodEvent>
 
 #include "tests/qt/on_screen.h"
@@ -111,6 +112,35 @@ TEST_F(QtField, UndoesNothingThatWasWrittenBeforeItHadTheFocus) {
   focus(box());
   press(Qt::Key_Z, "\x1a", Qt::ControlModifier);
   EXPECT_EQ(box().Text(), "1");
+}
+
+TEST_F(QtField, AnInputMethodReplacesWhatStandsBeforeTheCaret) {
+  write("caffe");
+  QInputMethodEvent composed;
+  composed.setCommitString(QStringLiteral("è"), -1, 1);
+  QApplication::sendEvent(&line(), &composed);
+  EXPECT_EQ(box().Text(), "caffè");
+  expectAgreement();
+  press(Qt::Key_Left);
+  press(Qt::Key_Left);
+  QInputMethodEvent beyond;
+  beyond.setCommitString(QStringLiteral("b"), -9, 7);
+  QApplication::sendEvent(&line(), &beyond);
+  EXPECT_EQ(box().Text(), "baffè");
+  QInputMethodEvent around;
+  around.setCommitString(QStringLiteral("c"), -1, 2);
+  QApplication::sendEvent(&line(), &around);
+  EXPECT_EQ(box().Text(), "cffè");
+  expectAgreement();
+}
+
+TEST_F(QtField, WhatIsComposedIsSeenBeforeItIsTyped) {
+  write("caff");
+  const QImage before = line().grab().toImage();
+  QInputMethodEvent composing(QStringLiteral("wwww"), {});
+  QApplication::sendEvent(&line(), &composing);
+  EXPECT_EQ(box().Text(), "caff");
+  EXPECT_NE(line().grab().toImage(), before);
 }
 
 TEST_F(QtField, WhatAnInputMethodComposesGoesPastTheFilter) {

@@ -85,6 +85,32 @@ TEST_F(QtForm, WaitsForTheDefaultKey) {
   EXPECT_TRUE(box().hasFocus());
 }
 
+TEST_F(QtForm, FollowsItsPlace) {
+  showAnd([this] {
+    const QSize inside = window().size();
+    EXPECT_EQ(inside, platform.widgetOf(form->surface()).size());
+    toolkit::Place place = form->place();
+    place.left = 1440;
+    place.top = 2880;
+    form->place(place);
+    EXPECT_EQ(window().pos(), QPoint(window().logicalDpiX(), 2 * window().logicalDpiY()));
+    EXPECT_EQ(window().size(), inside);
+    place = {.left = 0, .top = 0, .width = place.width + 1440, .height = place.height - 720};
+    form->place(place);
+    EXPECT_EQ(window().pos(), QPoint(0, 0));
+    EXPECT_NEAR(window().width(), inside.width() + window().logicalDpiX(), 1);
+    EXPECT_NEAR(window().height(), inside.height() - window().logicalDpiY() / 2, 1);
+    window().close();
+  });
+}
+
+TEST_F(QtForm, ACellIsToldWholeByItsTooltip) {
+  showAnd([this] {
+    EXPECT_EQ(table().model()->index(0, 1).data(Qt::ToolTipRole).toString(), "uno");
+    window().close();
+  });
+}
+
 TEST_F(QtForm, TheCancelKeyUnloadsIt) {
   showAnd([this] {
     QApplication::setActiveWindow(&window());

@@ -40,6 +40,10 @@ class OnScreen : public testing::Test {
   }
   QLineEdit& line(std::string_view name = "A") { return dynamic_cast<QLineEdit&>(shown(name)); }
 
+  std::unique_ptr<toolkit::Surface> another(std::string name) {
+    return platform.makeSurface(kContractLayout, container, std::move(name));
+  }
+
   /// Gives a widget the focus and shows it.
   void focus(toolkit::Widget& widget) {
     widget.SetFocus();

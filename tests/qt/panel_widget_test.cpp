@@ -55,6 +55,69 @@ TEST_F(QtPanel, TabAndShiftTabFollowTheTabOrder) {
   expectAgreement();
 }
 
+TEST_F(QtPanel, TabLeavesThePanelAtItsLastFieldAndShiftTabComesBackToIt) {
+  std::vector<std::string> heard;
+  box("Twin2").LostFocus = [&] { heard.emplace_back("lost"); };
+  box("Twin2").GotFocus = [&] { heard.emplace_back("got"); };
+  focus(box("Twin1"));
+  press(Qt::Key_Tab, "\t");
+  EXPECT_TRUE(box("Twin2").hasFocus());
+  press(Qt::Key_Tab, "\t");
+  EXPECT_EQ(QApplication::focusWidget(), hostField);
+  EXPECT_EQ(platform.focused(), nullptr);
+  press(Qt::Key_Backtab, {}, Qt::ShiftModifier);
+  EXPECT_TRUE(box("Twin2").hasFocus());
+  EXPECT_THAT(heard, ElementsAre("got", "lost", "got"));
+  expectAgreement();
+}
+
+TEST_F(QtPanel, TabLeavesThePanelAtTheLastFieldThatCanBeReached) {
+  box("Twin2").Enabled(false);
+  focus(box("Twin1"));
+  press(Qt::Key_Tab, "\t");
+  EXPECT_EQ(QApplication::focusWidget(), hostField);
+  press(Qt::Key_Tab, "\t");
+  EXPECT_TRUE(box("Free").hasFocus());
+  press(Qt::Key_Backtab, {}, Qt::ShiftModifier);
+  EXPECT_EQ(QApplication::focusWidget(), hostField);
+}
+
+TEST_F(QtPanel, TabGoesFromPanelToPanel) {
+  const auto second = another("second");
+  const auto third = another("third");
+  window->layout()->addWidget(&platform.widgetOf(*second));
+  window->layout()->addWidget(&platform.widgetOf(*third));
+  QApplication::processEvents();
+  hostField->setFocus();
+  press(Qt::Key_Tab, "\t");
+  EXPECT_TRUE(second->textBox("Free").hasFocus());
+  focus(second->textBox("Twin2"));
+  press(Qt::Key_Tab, "\t");
+  EXPECT_TRUE(third->textBox("Free").hasFocus());
+  press(Qt::Key_Backtab, {}, Qt::ShiftModifier);
+  EXPECT_TRUE(second->textBox("Twin2").hasFocus());
+  focus(third->textBox("Twin2"));
+  press(Qt::Key_Tab, "\t");
+  EXPECT_TRUE(box("Free").hasFocus());
+}
+
+TEST_F(QtPanel, TabGoesRoundInAPanelThatIsAloneInItsWindow) {
+  hostField->hide();
+  focus(box("Twin2"));
+  press(Qt::Key_Tab, "\t");
+  EXPECT_TRUE(box("Free").hasFocus());
+  press(Qt::Key_Backtab, {}, Qt::ShiftModifier);
+  EXPECT_TRUE(box("Twin2").hasFocus());
+}
+
+TEST_F(QtPanel, APanelMayBeDroppedAsTabLeavesIt) {
+  box("Twin2").LostFocus = [&] { panel.reset(); };
+  focus(box("Twin2"));
+  press(Qt::Key_Tab, "\t");
+  EXPECT_EQ(QApplication::focusWidget(), hostField);
+  EXPECT_EQ(platform.focused(), nullptr);
+}
+
 TEST_F(QtPanel, TheMouseMovesTheFocusAndPushes) {
   std::vector<std::string> heard;
   box().LostFocus = [&] { heard.emplace_back("lost A"); };

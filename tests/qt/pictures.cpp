@@ -89,6 +89,8 @@ std::span<const Content> contents() {
                               Content{"Codice", text("22")},
                               Content{"COD_MOVIMENTO", std::uint8_t{7}},
                               Content{"COD_RAMO", text("FD")},
+                              Content{"TIPO_SK", std::int16_t{4}},
+                              Content{"competenze", text("1")},
                               Content{"DESCRIZIONE", text("ORDINARIA")},
                               Content{"Deb_Dec", std::uint8_t{100}},
                               Content{"COD_IVA", std::uint8_t{22}},

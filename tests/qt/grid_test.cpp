@@ -1,0 +1,46 @@
+// A grid before a person.
+#include <QTableView>
+
+#include "qvn/toolkit/data_grid.h"
+#include "tests/qt/each_surface.h"
+
+namespace qvn::test {
+namespace {
+
+class QtGrid : public EachSurface {
+ public:
+  toolkit::DataGrid& grid() { return surface().grid("TDBGrid1"); }
+  QTableView& table() { return dynamic_cast<QTableView&>(shown(grid())); }
+};
+INSTANTIATE_TEST_SUITE_P(Viewer, QtGrid, testing::Values("FrmVIS_COMPAGNIE"));
+
+TEST_P(QtGrid, KeepsAColumnAsWideAsAPersonDraggedIt) {
+  table().setColumnWidth(0, 123);
+  grid().Enabled(false);
+  platform.settle();
+  EXPECT_EQ(table().columnWidth(0), 123);
+}
+
+TEST_P(QtGrid, ShowsAColumnThatIsWrittenAnew) {
+  table().setColumnWidth(0, 123);
+  toolkit::DataGrid::Column column = grid().column(0);
+  column.caption = "Altro";
+  grid().column(0, column);
+  platform.settle();
+  EXPECT_EQ(table().model()->headerData(0, Qt::Horizontal).toString(), "Altro");
+  EXPECT_NE(table().columnWidth(0), 123);
+}
+
+TEST_P(QtGrid, ForgetsItsRowsOnlyWhenItsSourceIsAskedAgain) {
+  int resets = 0;
+  QObject::connect(table().model(), &QAbstractItemModel::modelReset, &table(), [&] { ++resets; });
+  grid().BackColor(0xFFFF00);
+  platform.settle();
+  EXPECT_EQ(resets, 0);
+  EXPECT_THROW(grid().DataSource().Refresh(), Failure);
+  platform.settle();
+  EXPECT_EQ(resets, 1);
+}
+
+}  // namespace
+}  // namespace qvn::test
