@@ -41,18 +41,6 @@ void update(Store& store, std::string_view table, const Row& before, const Row& 
   if (store.run(sql, parameters) == 0) throw ChangedByOthers();
 }
 
-void insert(Store& store, std::string_view table, const Row& row) {
-  std::string names;
-  std::string places;
-  for (const std::string& column : row.columns) {
-    names.append(names.empty() ? "" : ", ").append(column);
-    places.append(places.empty() ? "?" : ", ?");
-  }
-  std::string sql = std::string("INSERT INTO ").append(table);
-  sql.append(" (").append(names).append(") VALUES (").append(places).append(")");
-  store.run(sql, row.values);
-}
-
 }  // namespace
 
 BoundPanel::Reading BoundPanel::read(const Field& field) const {
@@ -98,8 +86,20 @@ Row BoundPanel::toBeStored() const {
 
 void BoundPanel::write(Store& store, std::string_view table) const {
   const Row written = toBeStored();
-  if (written.isNew) return insert(store, table, written);
+  if (written.isNew) return addRow(store, table, written);
   update(store, table, row_.value(), written);
+}
+
+void addRow(Store& store, std::string_view table, const Row& row) {
+  std::string names;
+  std::string places;
+  for (const std::string& column : row.columns) {
+    names.append(names.empty() ? "" : ", ").append(column);
+    places.append(places.empty() ? "?" : ", ?");
+  }
+  std::string sql = std::string("INSERT INTO ").append(table);
+  sql.append(" (").append(names).append(") VALUES (").append(places).append(")");
+  store.run(sql, row.values);
 }
 
 }  // namespace qvn::ufficio

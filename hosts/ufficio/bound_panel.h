@@ -55,4 +55,7 @@ class BoundPanel {
   std::vector<Reading> asShown_;
 };
 
+/// Adds a row to a table.
+void addRow(Store& store, std::string_view table, const Row& row);
+
 }  // namespace qvn::ufficio

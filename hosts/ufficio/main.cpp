@@ -2,10 +2,11 @@
 #include <QApplication>
 #include <QtGlobal>
 #include <algorithm>
-#include <array>
 #include <cstddef>
+#include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -42,24 +43,30 @@ std::size_t numberOf(const std::string& screen) {
   throw WrongUsage("there is no screen " + screen + "; there is: " + names);
 }
 
-/// Qt ends a program that has none with an abort.
-bool displayIsThere() {
-#ifdef Q_OS_UNIX
-  constexpr std::array kDisplays{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
-  return std::ranges::any_of(kDisplays, [](const char* name) { return !qEnvironmentVariableIsEmpty(name); });
-#else
-  return true;
-#endif
-}
+/// While one lives, the program ends with kNoDisplay where Qt would end it with an abort, as without a display.
+class OpeningDisplay {
+ public:
+  OpeningDisplay() { before_ = qInstallMessageHandler(&hear); }
+  ~OpeningDisplay() { qInstallMessageHandler(before_); }
+  OpeningDisplay(const OpeningDisplay&) = delete;
+  OpeningDisplay& operator=(const OpeningDisplay&) = delete;
+
+ private:
+  static void hear(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+    if (type != QtFatalMsg) return before_(type, context, message);
+    std::cerr << "qvn-ufficio: there is no display to open a window on. " << message.toStdString() << std::endl;
+    std::_Exit(kNoDisplay);
+  }
+
+  static inline QtMessageHandler before_ = nullptr;
+};
 
 int run(const Arguments& arguments) {
   const std::size_t first = numberOf(arguments.screen);
   const bool window = arguments.pictures.empty();
-  if (window && !displayIsThere()) {
-    std::cerr << "qvn-ufficio: there is no display to open a window on\n";
-    return kNoDisplay;
-  }
+  std::optional<OpeningDisplay> opening(std::in_place);
   qvn::qt::Platform platform(window ? qvn::qt::Display::Desktop : qvn::qt::Display::Offscreen);
+  opening.reset();
   platform.drivers().add(qvn::sqlite::driver());
   const Installed installed(platform);
   Store store(arguments.database);

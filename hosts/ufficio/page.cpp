@@ -5,7 +5,6 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
-#include "hosts/ufficio/tab_stops.h"
 #include "platforms/qt/texts.h"
 
 namespace qvn::ufficio {
@@ -51,11 +50,22 @@ void placeAdded(qt::Platform& platform, QWidget& page, const Screen& screen) {
   QWidget& inside = *static_cast<QScrollArea&>(page).widget();
   auto& layout = static_cast<QBoxLayout&>(*inside.layout());
   const std::vector<Panel*> panels = screen.panels();
+  int place = screen.heads().empty() ? 0 : 1;
   for (const Panel* panel : panels) {
     QWidget& widget = platform.widgetOf(panel->surface());
-    if (widget.parentWidget() != &inside) layout.insertWidget(layout.count() - 1, &widget, 0, Qt::AlignLeft);
+    if (widget.parentWidget() != &inside) layout.insertWidget(place, &widget, 0, Qt::AlignLeft);
+    ++place;
   }
-  followInOrder(platform, nullptr, panels);
+}
+
+QWidget* placeOver(QWidget* page, QWidget* lines) {
+  page->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
+  auto* both = new QWidget;
+  auto* layout = new QVBoxLayout(both);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->addWidget(page);
+  layout->addWidget(lines, 1);
+  return both;
 }
 
 }  // namespace qvn::ufficio

@@ -11,7 +11,10 @@ namespace qvn::ufficio {
 /// Without a parent, for the window to place. The panels' widgets go with it or with the screen, whichever goes first.
 QWidget* makePage(qt::Platform& platform, const Screen& screen);
 
-/// Places the panels that the screen has added since, below the others of its page.
+/// Places the panels that the screen has added since, each where it stands in its order.
 void placeAdded(qt::Platform& platform, QWidget& page, const Screen& screen);
+
+/// A page over the lines of its screen.
+QWidget* placeOver(QWidget* page, QWidget* lines);
 
 }  // namespace qvn::ufficio

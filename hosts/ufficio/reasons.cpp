@@ -5,7 +5,6 @@
 
 #include "hosts/ufficio/store_failure.h"
 #include "platforms/qt/texts.h"
-#include "qvn/shared/failure.h"
 
 namespace qvn::ufficio {
 
@@ -49,9 +48,12 @@ constexpr std::array kEvents{
 QString reasonOf(const std::exception& failure) {
   QString words = qt::shown(failure.what());
   if (dynamic_cast<const StoreFailure*>(&failure) != nullptr) return words;
-  const auto* const ofLibrary = dynamic_cast<const Failure*>(&failure);
-  const char* const italian = ofLibrary == nullptr ? "c'è un errore imprevisto" : wordsOf(ofLibrary->kind());
-  return QString("%1 (%2)").arg(QString::fromUtf8(italian), words);
+  if (const auto* ofLibrary = dynamic_cast<const Failure*>(&failure)) return reasonOf(ofLibrary->kind(), words);
+  return QString("c'è un errore imprevisto (%1)").arg(words);
+}
+
+QString reasonOf(FailureKind kind, const QString& words) {
+  return QString("%1 (%2)").arg(QString::fromUtf8(wordsOf(kind)), words);
 }
 
 QString spokenEvent(const QString& event) {

@@ -19,8 +19,7 @@ RecordChooser::RecordChooser(QWidget* parent)
   filter_->installEventFilter(this);
   records_->setObjectName("record");
   records_->setAccessibleName("Record trovati");
-  records_->setUniformItemSizes(true);
-  records_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  records_->setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   more_->setWordWrap(true);
 
   auto* layout = new QVBoxLayout(this);

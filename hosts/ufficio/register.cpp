@@ -19,6 +19,12 @@ constexpr std::array kScreens{
     ScreenClass{.name = "ricerca-polizze", .title = "Ricerca polizze", .make = screens::policySearch},
     ScreenClass{.name = "ricerca-sinistri", .title = "Ricerca sinistri", .make = screens::claimSearch},
     ScreenClass{.name = "righe-iva", .title = "Righe IVA dei movimenti", .make = screens::vatLines},
+    ScreenClass{.name = "prima-nota", .title = "Prima nota", .make = screens::journalEntry},
+    ScreenClass{.name = "giornale", .title = "Stampa del giornale", .make = screens::journalPrint},
+    ScreenClass{.name = "tipi-movimenti", .title = "Tipi di movimento", .make = screens::movementTypes},
+    ScreenClass{.name = "righe-tipi", .title = "Righe dei tipi di movimento", .make = screens::movementTypeLines},
+    ScreenClass{.name = "stampe-contabili", .title = "Stampe contabili", .make = screens::accountingPrints},
+    ScreenClass{.name = "rami", .title = "Rami", .make = screens::branches},
 };
 
 }  // namespace

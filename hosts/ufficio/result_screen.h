@@ -57,6 +57,8 @@ class ResultScreen : public Screen {
   void show(Store& store, std::size_t first, std::size_t end, const std::function<void(const std::exception&)>& failed);
   /// The panel in view that shows the record of that place; null if none does.
   Panel* panelAt(std::size_t place) const;
+  /// The row of a record among those found, as it is now. StoreFailure if it is gone.
+  Row rowAt(Store& store, std::size_t place) const { return read(store, records_.at(place)); }
   /// Any of the panels, which are all of one size.
   Panel& anyPanel() const { return *slots_.front().panel; }
 

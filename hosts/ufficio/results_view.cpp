@@ -8,8 +8,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "hosts/ufficio/tab_stops.h"
-
 namespace qvn::ufficio {
 
 namespace {
@@ -17,6 +15,7 @@ namespace {
 constexpr int kBar = 4;   ///< the width of the bar beside the marked record
 constexpr int kLeft = 6;  ///< where the panels begin
 constexpr int kBetween = 4;
+constexpr int kOfTheNext = 20;    ///< what shows of the records around the one that is brought into view
 constexpr int kStepsARecord = 3;  ///< so that a notch of the wheel, which is three steps, goes on by a record
 
 }  // namespace
@@ -36,6 +35,7 @@ ResultsView::ResultsView(qt::Platform& platform, Store& store, ResultScreen& scr
   setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   viewport()->setBackgroundRole(QPalette::Window);
   verticalScrollBar()->setSingleStep((panel_.height() + kBetween + kStepsARecord - 1) / kStepsARecord);
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*before*/, QWidget* now) { followFocus(now); });
 }
 
 std::size_t ResultsView::firstInView() const {
@@ -81,7 +81,7 @@ void ResultsView::showMarked() {
 }
 
 void ResultsView::bringIntoView(std::size_t place) {
-  const QRect at = placeOf(place);
+  const QRect at = placeOf(place).adjusted(0, -kOfTheNext, 0, kOfTheNext);
   QScrollBar& bar = *verticalScrollBar();
   if (at.top() < 0) {
     bar.setValue(bar.value() + at.top());
@@ -104,7 +104,6 @@ void ResultsView::lay() {
     panel->move(placeOf(place).topLeft());
     panel->show();
   }
-  followInOrder(platform_, this, screen_.panels());
   platform_.settle();
 }
 
@@ -150,16 +149,12 @@ void ResultsView::keyPressEvent(QKeyEvent* event) {
   }
 }
 
-bool ResultsView::focusNextPrevChild(bool next) {
-  if (!QAbstractScrollArea::focusNextPrevChild(next)) return false;
-  const QWidget* const focus = QApplication::focusWidget();
+void ResultsView::followFocus(const QWidget* now) {
+  if (now == nullptr || !viewport()->isAncestorOf(now)) return;
   for (std::size_t place = firstInView(); place < endInView(); ++place) {
     const QWidget* const panel = panelAt(place);
-    if (panel == nullptr || !panel->isAncestorOf(focus)) continue;
-    bringIntoView(place);
-    break;
+    if (panel != nullptr && panel->isAncestorOf(now)) return bringIntoView(place);
   }
-  return true;
 }
 
 }  // namespace qvn::ufficio

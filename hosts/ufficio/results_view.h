@@ -31,14 +31,14 @@ class ResultsView final : public QAbstractScrollArea {
   void paintEvent(QPaintEvent* event) override;
   /// Home and End, beside the keys that scroll of themselves.
   void keyPressEvent(QKeyEvent* event) override;
-  /// The panel that the focus goes to comes into view.
-  bool focusNextPrevChild(bool next) override;
 
  private:
   std::size_t firstInView() const;
   std::size_t endInView() const;
   void measure();
   void lay();
+  /// The panel that the focus has gone to comes wholly into view.
+  void followFocus(const QWidget* now);
   void leaveWhatGoes(std::size_t first, std::size_t end);
   void bringIntoView(std::size_t place);
   QRect placeOf(std::size_t place) const;

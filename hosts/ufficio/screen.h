@@ -15,6 +15,7 @@
 
 namespace qvn::ufficio {
 
+class Printing;
 class ResultScreen;
 
 /// A record that the operator may choose.
@@ -43,7 +44,12 @@ class Screen {
   virtual std::vector<Panel*> panels() const = 0;
   /// Itself where it shows all records that were found, as a search does; null where it shows one of them.
   virtual ResultScreen* results() { return nullptr; }
-  /// What stands over the first of them. Lives as long as the screen.
+  /// The lines of the record that is shown, which stand below the panels; null where there are none. Loading takes them
+  /// anew.
+  virtual ResultScreen* lines() { return nullptr; }
+  /// What prints the record that is shown; null where it cannot be printed.
+  virtual Printing* printing() { return nullptr; }
+  /// What stands over the first of the panels. Lives as long as the screen.
   virtual std::span<const Head> heads() const { return {}; }
   /// What is to be told about the panels as they stand, on one line below them; mostly nothing. Never fails.
   virtual std::string remark() const { return {}; }

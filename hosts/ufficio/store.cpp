@@ -119,6 +119,9 @@ Store::Statement Store::prepared(const std::string& sql, std::span<const Value> 
 
 bool Store::step(sqlite3_stmt& statement) {
   const int result = sqlite3_step(&statement);
+  if (result == SQLITE_INTERRUPT && sqlite3_stmt_readonly(&statement) == 0) {
+    throw StoreFailure("la scrittura richiede troppo tempo; riprovare tra poco");
+  }
   if (result != SQLITE_ROW && result != SQLITE_DONE) fail(database_.get(), path_);
   return result == SQLITE_ROW;
 }
@@ -138,8 +141,14 @@ std::vector<Row> Store::rows(const std::string& sql, std::span<const Value> para
   return rows;
 }
 
+bool Store::hasTable(std::string_view name) {
+  const std::vector<Value> parameters{std::string(name)};
+  return !rows("SELECT 1 FROM sqlite_master WHERE type = 'table' AND name = ?1", parameters).empty();
+}
+
 std::int64_t Store::run(const std::string& sql, std::span<const Value> parameters) {
   const Statement statement = prepared(sql, parameters);
+  const Deadline deadline(*database_);
   step(*statement);
   return sqlite3_changes64(database_.get());
 }

@@ -30,6 +30,7 @@ class Store {
 
   /// The rows that a statement gives, its parameters ?1, ?2, … bound in their order.
   std::vector<Row> rows(const std::string& sql, std::span<const Value> parameters = {});
+  bool hasTable(std::string_view name);
   /// Runs a statement that gives no rows; how many rows it has changed.
   std::int64_t run(const std::string& sql, std::span<const Value> parameters = {});
 

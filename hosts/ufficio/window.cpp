@@ -14,6 +14,7 @@
 #include <string>
 
 #include "hosts/ufficio/page.h"
+#include "hosts/ufficio/panel_steps.h"
 #include "hosts/ufficio/reasons.h"
 #include "platforms/qt/texts.h"
 
@@ -22,6 +23,7 @@ namespace qvn::ufficio {
 Window::Window(qt::Platform& platform, Store& store, std::span<const ScreenClass> classes)
     : platform_(platform), store_(store), connection_(store) {
   ask_ = [this](const QString& record) { return askInWindow(*this, record); };
+  askFile_ = [this](const QString& name) { return askFileInWindow(*this, name); };
   screens_.reserve(classes.size());
   for (const ScreenClass& made : classes) screens_.emplace_back().made = &made;
   layOut();
@@ -87,7 +89,7 @@ void Window::layOut() {
   parts->addWidget(work);
   parts->setStretchFactor(2, 1);
   constexpr int kListWidth = 190;
-  constexpr int kChooserWidth = 230;
+  constexpr int kChooserWidth = 330;
   constexpr int kPagesWidth = 935;
   constexpr int kHeight = 600;
   parts->setSizes({kListWidth, kChooserWidth, kPagesWidth});
@@ -114,20 +116,31 @@ void Window::addCommands() {
   edit_ = addCommand("modifica", "&Modifica", Qt::Key_F2, "Modifica il record");
   save_ = addCommand("salva", "&Salva", QKeySequence::Save, "Salva le modifiche");
   cancel_ = addCommand("annulla", "&Annulla", Qt::Key_Escape, "Rinuncia alle modifiche");
+  print_ = addCommand("stampa", "S&tampa in PDF…", QKeySequence::Print, "Stampa in un file PDF");
   QAction* search = addCommand("cerca", "&Cerca", QKeySequence::Find, "Cerca un record");
   QAction* screens = addCommand("vai", "Sc&hermate", Qt::Key_F6, "Va all'elenco delle schermate");
+  QAction* next = addCommand("avanti", "&Pannello seguente", Qt::CTRL | Qt::Key_PageDown, "Va al pannello che segue");
+  QAction* previous =
+      addCommand("indietro", "Pannello p&recedente", Qt::CTRL | Qt::Key_PageUp, "Va al pannello che precede");
   QAction* quit = addCommand("esci", "&Esci", Qt::CTRL | Qt::Key_Q, "Chiude il programma");
   connect(edit_, &QAction::triggered, this, &Window::edit);
   connect(save_, &QAction::triggered, this, &Window::save);
   connect(cancel_, &QAction::triggered, this, &Window::cancel);
+  connect(print_, &QAction::triggered, this, &Window::print);
   connect(search, &QAction::triggered, chooser_, &RecordChooser::focusFilter);
   connect(screens, &QAction::triggered, list_, [this] { list_->setFocus(); });
+  connect(next, &QAction::triggered, this, [this] { stepToPanel(true); });
+  connect(previous, &QAction::triggered, this, [this] { stepToPanel(false); });
   connect(quit, &QAction::triggered, this, &QWidget::close);
 
   QMenu* menu = menuBar()->addMenu("&Record");
   menu->addActions({search, screens});
   menu->addSeparator();
+  menu->addActions({next, previous});
+  menu->addSeparator();
   menu->addActions({edit_, save_, cancel_});
+  menu->addSeparator();
+  menu->addAction(print_);
   menu->addSeparator();
   menu->addAction(quit);
 
@@ -159,17 +172,25 @@ bool Window::attempt(const QString& failed, Work work) {
   return false;
 }
 
+std::unique_ptr<ResultsView> Window::makeResults(ResultScreen& results) {
+  return std::make_unique<ResultsView>(platform_, store_, results, [this](const std::exception& failure) {
+    notice_->warn(QString("Un record trovato non si può mostrare: %1.").arg(reasonOf(failure)));
+  });
+}
+
 bool Window::makeScreen(Shown& shown) {
   return attempt("La schermata non si può aprire", [&] {
     const ScreenClass& made = *shown.made;
     auto screen = made.make({.container = announcements_, .settings = settings_, .name = std::string(made.name)});
     if (ResultScreen* results = screen->results()) {
-      shown.results = new ResultsView(platform_, store_, *results, [this](const std::exception& failure) {
-        notice_->warn(QString("Un record trovato non si può mostrare: %1.").arg(reasonOf(failure)));
-      });
-      shown.page = shown.results;
+      shown.results = makeResults(*results);
+      shown.page = shown.results.get();
     } else {
       shown.page = makePage(platform_, *screen);
+      if (ResultScreen* lines = screen->lines()) {
+        shown.lines = makeResults(*lines);
+        shown.page = placeOver(shown.page, shown.lines.get());
+      }
     }
     pages_->addWidget(shown.page);
     shown.screen = std::move(screen);
@@ -225,6 +246,8 @@ bool Window::load(const Key& key) {
   const bool loaded = attempt("Il record non si può mostrare", [&] { screen()->load(store_, key); });
   if (current_->results != nullptr) {
     current_->results->showMarked();
+  } else if (current_->lines != nullptr) {
+    current_->lines->renew();
   } else {
     placeAdded(platform_, *current_->page, *screen());
   }
@@ -287,8 +310,21 @@ bool Window::save() {
     return false;
   }
   editing_ = false;
-  if (load(key)) notice_->tell("Il record è stato salvato.");
+  const bool other = key != screen()->key();
+  notice_->tell({});
+  load(key);
   findRecords();
+  // One that was new is no longer what the filter has found it by.
+  if (other && std::ranges::find(chooser_->records(), key, &Found::key) == chooser_->records().end()) {
+    chooser_->clearFilter();
+    findRecords();
+  }
+  const QString trouble = notice();  // with showing what was stored
+  if (trouble.isEmpty()) {
+    notice_->tell("Il record è stato salvato.");
+  } else {
+    notice_->warn("Il record è stato salvato. " + trouble);
+  }
   showState();
   return true;
 }
@@ -296,6 +332,24 @@ bool Window::save() {
 bool Window::cancel() {
   if (!editing_ || !leaveRecord()) return false;
   return load(screen()->key());
+}
+
+void Window::stepToPanel(bool forwards) {
+  if (screen() == nullptr) return;
+  QWidget* const field = fieldOfNeighbour(platform_, screen()->panels(), QApplication::focusWidget(), forwards);
+  if (field != nullptr) field->setFocus();
+}
+
+bool Window::print() {
+  if (!print_->isEnabled()) return false;
+  Printing& printing = *screen()->printing();
+  const QString file = askFile_(qt::shown(printing.fileName()));
+  if (file.isEmpty()) return false;
+  bool printed = false;
+  if (!attempt("La stampa non è riuscita", [&] { printed = printWithBar(*this, printing, store_, file); }))
+    return false;
+  notice_->tell(printed ? QString("Stampato in %1.").arg(file) : QString("La stampa è stata annullata."));
+  return printed;
 }
 
 bool Window::leaveRecord() {
@@ -325,6 +379,7 @@ void Window::showState() {
   edit_->setEnabled(loaded && !editing_ && screen()->editable());
   save_->setEnabled(editing_);
   cancel_->setEnabled(editing_);
+  print_->setEnabled(loaded && !editing_ && screen()->printing() != nullptr);
   mayCancel_->setEnabled(!editing_);
   const QString title = current_ == nullptr ? QString() : qt::shown(current_->made->title);
   const QString record = loaded && current_->record.size() > 0 ? QString("%1[*] – ").arg(current_->record) : "[*]";
@@ -343,7 +398,8 @@ void Window::showState() {
   setWindowModified(editing_ && screen()->changed());
 }
 
-void Window::tellFailure(const QString& panel, const QString& widget, const QString& event, const QString& message) {
+void Window::tellFailure(const QString& panel, const QString& widget, const QString& event, const QString& message,
+                         FailureKind kind) {
   ++failures_;
   // When the handler is done.
   QMetaObject::invokeMethod(
@@ -355,7 +411,7 @@ void Window::tellFailure(const QString& panel, const QString& widget, const QStr
   const QWidget* const shown = pages_->findChild<QWidget*>(panel);
   const QWidget* const field = shown == nullptr ? nullptr : shown->findChild<QWidget*>(widget);
   const QString name = field == nullptr ? widget : field->accessibleName();
-  notice_->warn(QString("Campo «%1», %2: operazione non riuscita (%3).").arg(name, spokenEvent(event), message));
+  notice_->warn(QString("Campo «%1», %2: %3.").arg(name, spokenEvent(event), reasonOf(kind, message)));
 }
 
 }  // namespace qvn::ufficio

@@ -14,6 +14,7 @@
 
 #include "hosts/ufficio/library_connection.h"
 #include "hosts/ufficio/notice.h"
+#include "hosts/ufficio/print_dialog.h"
 #include "hosts/ufficio/record_chooser.h"
 #include "hosts/ufficio/results_view.h"
 #include "hosts/ufficio/screen.h"
@@ -34,6 +35,8 @@ class Window final : public QMainWindow {
 
   /// How to ask about changes that are not stored; to begin with, by askInWindow().
   void askBy(AskUnsaved ask) { ask_ = std::move(ask); }
+  /// How to ask for the file of a print; to begin with, by askFileInWindow().
+  void askFileBy(AskFile ask) { askFile_ = std::move(ask); }
 
   /// What the operator does by the list of screens, the chooser and the commands. False where it came to nothing, as
   /// the notice tells, or the operator has wanted to stay.
@@ -42,6 +45,7 @@ class Window final : public QMainWindow {
   bool edit();
   bool save();
   bool cancel();
+  bool print();
 
   /// The screen that is shown; null where it could not be made.
   Screen* screen() const { return current_ == nullptr ? nullptr : current_->screen.get(); }
@@ -58,8 +62,9 @@ class Window final : public QMainWindow {
     const ScreenClass* made = nullptr;
     std::unique_ptr<Screen> screen;
     QWidget* page = nullptr;
-    ResultsView* results = nullptr;  ///< the page, where it is one
-    QString record;                  ///< the text of the record that it shows
+    std::unique_ptr<ResultsView> results;  ///< the page, where it is one; goes before its screen
+    std::unique_ptr<ResultsView> lines;    ///< below the panels, where there are some
+    QString record;                        ///< the text of the record that it shows
   };
 
   void layOut();
@@ -71,16 +76,19 @@ class Window final : public QMainWindow {
   bool attempt(const QString& failed, Work work);
 
   bool makeScreen(Shown& shown);
+  std::unique_ptr<ResultsView> makeResults(ResultScreen& results);
   void findRecords();
   void takeResults(std::span<const Found> found);
   bool load(const Key& key);
   /// Takes the focus from the panels, so that the field is left as by hand. False if that failed.
   bool leaveField();
   void backToField();
+  void stepToPanel(bool forwards);
   /// Ends the editing, if the operator lets it end.
   bool leaveRecord();
   void showState();
-  void tellFailure(const QString& panel, const QString& widget, const QString& event, const QString& message);
+  void tellFailure(const QString& panel, const QString& widget, const QString& event, const QString& message,
+                   FailureKind kind);
 
   qt::Platform& platform_;
   Store& store_;
@@ -88,6 +96,7 @@ class Window final : public QMainWindow {
   LibraryConnection connection_;
   qt::Announcements announcements_;  // before the panels, which announce to it
   AskUnsaved ask_;
+  AskFile askFile_;
   std::vector<Shown> screens_;
   Shown* current_ = nullptr;
   bool editing_ = false;
@@ -103,6 +112,7 @@ class Window final : public QMainWindow {
   QAction* edit_ = nullptr;
   QAction* save_ = nullptr;
   QAction* cancel_ = nullptr;
+  QAction* print_ = nullptr;
   QAction* mayCancel_ = nullptr;
 };
 

@@ -70,6 +70,20 @@ TEST(OfficeDatabase, ThatComesLaterIsRead) {
   EXPECT_TRUE(office.window->openRecord(office.window->chooser().records().front()));
 }
 
+TEST(OfficeDatabase, IsNotWrittenForTooLong) {
+  const SampleCopy sample;
+  const std::string before = sample.everything();
+  ufficio::Store store(sample.file());
+  const auto endless = [&store] {
+    store.run(
+        "UPDATE TIPI_IVA SET IVA = "
+        "(WITH RECURSIVE N(X) AS (SELECT 1 UNION ALL SELECT X + 1 FROM N) SELECT max(X) FROM N)");
+  };
+  EXPECT_THAT(endless, testing::ThrowsMessage<ufficio::StoreFailure>(HasSubstr("la scrittura richiede troppo tempo")));
+  EXPECT_EQ(sample.everything(), before);
+  EXPECT_EQ(store.run("UPDATE TIPI_IVA SET IVA = 21 WHERE COD_IVA = 22"), 1) << "it goes on afterwards";
+}
+
 class OfficeLookups : public AtWindow {};
 
 TEST_F(OfficeLookups, ThatFailAreToldAndLeaveWhatWasTyped) {
@@ -78,7 +92,8 @@ TEST_F(OfficeLookups, ThatFailAreToldAndLeaveWhatWasTyped) {
   sample.write("ALTER TABLE TIPI_IVA RENAME TO ALTRA_TABELLA");
   edit();
   write("2");
-  EXPECT_THAT(notice().toStdString(), HasSubstr("Campo «COD IVA», nuovo contenuto: operazione non riuscita ("));
+  EXPECT_THAT(notice().toStdString(),
+              HasSubstr("Campo «COD IVA», nuovo contenuto: una ricerca nel database non è riuscita ("));
   EXPECT_EQ(field("txtCOD_IVA").text(), "2");
   sample.write("ALTER TABLE ALTRA_TABELLA RENAME TO TIPI_IVA");
   write("2");
@@ -92,7 +107,7 @@ TEST_F(OfficeLookups, FindTheDatabaseAgainThatTheyMissed) {
   // The office has it open, and the library has not yet.
   std::filesystem::rename(sample.file(), sample.beside("altrove.db"));
   write("2");
-  EXPECT_THAT(notice().toStdString(), HasSubstr("operazione non riuscita ("));
+  EXPECT_THAT(notice().toStdString(), HasSubstr("una ricerca nel database non è riuscita ("));
   EXPECT_EQ(field("txtCOD_IVA").text(), "2");
   std::filesystem::rename(sample.beside("altrove.db"), sample.file());
   write("2");

@@ -1,7 +1,6 @@
 // The participants of a policy and of a claim at the window: what is shown, typed and then stored.
 #include <QCheckBox>
 #include <QLabel>
-#include <QScrollArea>
 
 #include "tests/ufficio/at_window.h"
 
@@ -155,9 +154,13 @@ TEST_F(OfficePolicyQuotas, ScrollsToTheParticipantThatIsTypedInto) {
   EXPECT_TRUE(widget("TxtQUOTA", 5).visibleRegion().isEmpty()) << "below the lower end";
   edit();
   go("ChkDELEGATARIA", 4);
-  press(Qt::Key_Tab);
-  EXPECT_TRUE(widget("TxtQUOTA", 5).hasFocus()) << focused().toStdString();
+  press(Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_TRUE(widget("TxtQUOTA", 5).hasFocus());
   EXPECT_EQ(widget("TxtQUOTA", 5).visibleRegion().boundingRect().size(), widget("TxtQUOTA", 5).size());
+  press(Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_TRUE(widget("TxtQUOTA", 5).hasFocus()) << "there is no other";
+  press(Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_TRUE(widget("TxtQUOTA", 4).hasFocus());
   press(Qt::Key_Escape);
   edit();
   EXPECT_TRUE(widget("TxtQUOTA", 0).hasFocus());

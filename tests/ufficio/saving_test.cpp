@@ -1,4 +1,5 @@
 // Where a record cannot be stored, and where changes might be lost.
+#include <QLabel>
 #include <QToolButton>
 
 #include "tests/ufficio/at_window.h"
@@ -215,7 +216,7 @@ TEST_F(OfficeSaving, TellsOfAHandlersFailureWithFieldAndReason) {
   enter("80");
   enter("0");
   enter("50");
-  EXPECT_THAT(notice().toStdString(), HasSubstr("Campo «IVA», tasto premuto: operazione non riuscita ("));
+  EXPECT_THAT(notice().toStdString(), HasSubstr("Campo «IVA», tasto premuto: c'è una divisione per zero ("));
   EXPECT_THAT(notice().toStdString(), HasSubstr("50 divided by a rate of 0"));
 }
 
@@ -232,6 +233,64 @@ TEST_F(OfficeSaving, StoresNothingWhereTheFieldCannotBeLeft) {
   EXPECT_EQ(focused(), "TxtIVA");
   EXPECT_TRUE(window().editing());
   EXPECT_EQ(sample.rows("SELECT 1 FROM sqlite_master WHERE name = 'MOVIMENTI_IVA'").size(), 0U);
+}
+
+TEST_F(OfficeSaving, TellsThatItHasStoredWhatItCannotShow) {
+  change();
+  sample.write(
+      "CREATE TRIGGER altri AFTER UPDATE ON TIPI_IVA BEGIN "
+      "INSERT INTO TIPI_IVA SELECT 999, new.DESCRIZIONE, new.IVA, new.Deb_Dec; "
+      "DELETE FROM TIPI_IVA WHERE COD_IVA = 22; END");
+  save();
+  EXPECT_EQ(sample.line("SELECT * FROM TIPI_IVA WHERE COD_IVA = 999"), "999|ALTRA|22|100");
+  EXPECT_EQ(notice().toStdString(),
+            "Il record è stato salvato. Il record non si può mostrare: il record non c'è più: è stato eliminato da "
+            "altri.");
+  EXPECT_FALSE(window().editing());
+}
+
+class OfficeSavingPercents : public AtWindow {
+ public:
+  /// Types a percent of the producer's accessories, of which there is nothing: so no amount follows.
+  void typePercentOfNothing() {
+    choose("provvigioni");
+    ASSERT_TRUE(window().openRecord({.key = {std::int64_t{1}, std::string("COSIR")}, .text = "prima"}));
+    edit();
+    ASSERT_TRUE(screen().remark().empty());
+    field("TxtP_ACC_PROD").setFocus();
+    see();
+    enter("7,5");
+    ASSERT_EQ(field("TxtACC_PROD").text(), "0,00");
+  }
+};
+
+TEST_F(OfficeSavingPercents, MarksAndTellsAPercentOfNothing) {
+  typePercentOfNothing();
+  EXPECT_TRUE(window().isWindowModified());
+  EXPECT_EQ(window().findChild<QLabel*>("osservazione")->text(),
+            "Le percentuali non si conservano: si salvano solo gli importi.");
+}
+
+TEST_F(OfficeSavingPercents, AsksBeforeAPercentOfNothingIsLost) {
+  typePercentOfNothing();
+  int asked = 0;
+  window().askBy([&](const QString& /*record*/) {
+    ++asked;
+    return Unsaved::Stay;
+  });
+  EXPECT_FALSE(window().close());
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(field("TxtP_ACC_PROD").text(), "7,50");
+}
+
+TEST_F(OfficeSavingPercents, WritesNothingForAPercentOfNothing) {
+  const std::string before = sample.everything();
+  typePercentOfNothing();
+  save();
+  EXPECT_EQ(notice(), "Il record è stato salvato.");
+  EXPECT_EQ(sample.everything(), before);
+  EXPECT_FALSE(window().isWindowModified());
+  EXPECT_TRUE(window().findChild<QLabel*>("osservazione")->isHidden());
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 // The outstanding titles of a policy at the window: the actions on offer, and what becomes of the one that is picked.
 #include <QComboBox>
-#include <QPushButton>
 #include <QTableView>
 #include <QTimer>
 
@@ -228,21 +227,20 @@ class OfficeTitleViewers : public OfficeTitles {
   Viewed viewed(std::string_view button) {
     Viewed seen;
     go(button, 1);
-    QTimer whenOpen;
-    QObject::connect(&whenOpen, &QTimer::timeout, [&] {
+    office.platform.formsWait(true);
+    QTimer::singleShot(0, [&seen] {
       QWidget* viewer = QApplication::activeModalWidget();
-      if (viewer == nullptr) return;
-      whenOpen.stop();
+      ASSERT_NE(viewer, nullptr);
       seen.title = viewer->windowTitle();
-      if (const auto* table = viewer->findChild<QTableView*>()) {
-        for (int row = 0; row < table->model()->rowCount(); ++row) {
-          seen.codes.push_back(qt::utf8(table->model()->index(row, 0).data().toString()));
-        }
+      const auto* table = viewer->findChild<QTableView*>();
+      ASSERT_NE(table, nullptr);
+      for (int row = 0; row < table->model()->rowCount(); ++row) {
+        seen.codes.push_back(qt::utf8(table->model()->index(row, 0).data().toString()));
       }
       viewer->close();
     });
-    whenOpen.start(0);
     press(Qt::Key_Space);
+    QApplication::setActiveWindow(&window());
     return seen;
   }
 };

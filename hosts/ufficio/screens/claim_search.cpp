@@ -24,8 +24,9 @@ constexpr std::array kFields{
 constexpr ResultDescription kClaims{
     .panelClass = "ctlRIC_SINISTRI",
     .find =
-        "SELECT S.N_SINISTRO || '  ' || coalesce(P.N_POLIZZA, '') || '  ' || coalesce(C.DESC_CLIENTE, '') || '  ' || "
-        "S.CONTROPARTE || '  ' || CASE coalesce(P.STATO, '') WHEN '' THEN 'in vigore' WHEN 'A' THEN 'annullata' "
+        "SELECT S.N_SINISTRO || coalesce('  ' || P.N_POLIZZA, '') || coalesce('  ' || C.DESC_CLIENTE, '') || "
+        "coalesce('  ' || nullif(trim(S.CONTROPARTE), ''), '') || '  ' || CASE coalesce(P.STATO, '') WHEN '' THEN 'in "
+        "vigore' WHEN 'A' THEN 'annullata' "
         "WHEN 'D' THEN CASE R.TIPO_SK WHEN 4 THEN 'svincolata' ELSE 'disdetta' END ELSE '' END AS TESTO, S.N_SINISTRO "
         "FROM SINISTRI S LEFT JOIN POLIZZE P ON P.PROT = S.PROT "
         "LEFT JOIN CLIENTI C ON C.COD_CLIENTE = P.COD_CLIENTE LEFT JOIN RAMI R ON R.COD_RAMO = P.COD_RAMO "

@@ -1,10 +1,14 @@
 // The commission of a policy's participants: ctlPROV_POLIZZE on QUOTE_POLIZZE, in the policy's current family of
-// amounts. The table keeps amounts and no percents, so a percent is 0 until the operator types one.
+// amounts. The table keeps amounts and no percents, so a percent is 0 until the operator types one, and it is told then
+// that only its amount will stay.
 #include <array>
+#include <optional>
 
 #include "hosts/ufficio/record_screen.h"
 #include "hosts/ufficio/screens/makers.h"
 #include "qvn/panels/commissions/ctlPROV_POLIZZE.h"
+#include "qvn/shared/conversions.h"
+#include "qvn/shared/failure.h"
 
 namespace qvn::ufficio::screens {
 
@@ -46,6 +50,21 @@ constexpr std::array<std::string_view, 9> kPercents{"P_PN_UFF",      "P_ACC_UFF"
                                                     "P_PN_PROD",     "P_ACC_PROD",     "P_AQ_PROD",
                                                     "P_PN_PROD_ALT", "P_ACC_PROD_ALT", "P_AQ_PROD_ALT"};
 
+/// What the boxes of percents say; nothing for one that says no number.
+using Percents = std::array<std::optional<Decimal>, kPercents.size()>;
+
+Percents percentsOf(Panel& panel) {
+  Percents percents;
+  for (std::size_t i = 0; i < percents.size(); ++i) {
+    try {
+      percents[i] = as<Decimal>(getByName(panel, kPercents[i]), Locale());
+    } catch (const Failure&) {
+      percents[i].reset();
+    }
+  }
+  return percents;
+}
+
 /// The sample office reckons what it passes on as a part of its own commission.
 constexpr std::uint8_t kOnOfficeCommission = 2;
 
@@ -63,6 +82,11 @@ CurrencyArray premiumsOf(const Row& policy, std::string_view family) {
 class Commissions final : public RecordScreen {
  public:
   explicit Commissions(const ScreenSite& site) : RecordScreen(kCommissions, site) {}
+
+  bool changed() const override { return RecordScreen::changed() || percentsTyped(); }
+  std::string remark() const override {
+    return percentsTyped() ? "Le percentuali non si conservano: si salvano solo gli importi." : "";
+  }
 
  protected:
   void show(Store& store, BoundPanel& bound, const Row& row) override {
@@ -84,7 +108,13 @@ class Commissions final : public RecordScreen {
     panel.Disattiva();  // a producer's code has enabled his fields
     bound.show(row, isTrf ? std::span<const Field>(kTrf) : kTaf);
     panel.TOTALI();
+    asShown_ = percentsOf(panel);
   }
+
+ private:
+  bool percentsTyped() const { return percentsOf(*panels().front()) != asShown_; }
+
+  Percents asShown_;
 };
 
 }  // namespace

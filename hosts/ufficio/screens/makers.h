@@ -17,5 +17,11 @@ std::unique_ptr<Screen> statements(const ScreenSite& site);
 std::unique_ptr<Screen> creditLines(const ScreenSite& site);
 std::unique_ptr<Screen> policySearch(const ScreenSite& site);
 std::unique_ptr<Screen> claimSearch(const ScreenSite& site);
+std::unique_ptr<Screen> journalEntry(const ScreenSite& site);
+std::unique_ptr<Screen> movementTypes(const ScreenSite& site);
+std::unique_ptr<Screen> movementTypeLines(const ScreenSite& site);
+std::unique_ptr<Screen> accountingPrints(const ScreenSite& site);
+std::unique_ptr<Screen> branches(const ScreenSite& site);
+std::unique_ptr<Screen> journalPrint(const ScreenSite& site);
 
 }  // namespace qvn::ufficio::screens

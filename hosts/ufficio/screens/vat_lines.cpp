@@ -2,6 +2,7 @@
 // first line is stored; a movement that has no line yet shows an empty one.
 #include <array>
 
+#include "hosts/ufficio/journal/vat_line.h"
 #include "hosts/ufficio/record_screen.h"
 #include "hosts/ufficio/screens/makers.h"
 
@@ -10,12 +11,6 @@ namespace qvn::ufficio::screens {
 namespace {
 
 constexpr std::array<std::string_view, 1> kKey{"N_MOVIMENTO"};
-
-constexpr std::array kFields{
-    Field{"COD_IVA", "COD_IVA", Kind::Number},
-    Field{"IMPONIBILE", "IMPONIBILE", Kind::Amount},
-    Field{"IVA", "IVA", Kind::Amount},
-};
 
 constexpr std::array kHeads{
     Head{"txtCOD_IVA", "Codice"}, Head{"LblDESC_IVA", "Descrizione"},
@@ -29,16 +24,11 @@ constexpr RecordDescription kVatLines{
         "SELECT N_MOVIMENTO || '  ' || substr(DATA_MOVIMENTO, 9, 2) || '/' || substr(DATA_MOVIMENTO, 6, 2) || '/' "
         "|| substr(DATA_MOVIMENTO, 1, 4) || '  ' || DESC_2 AS TESTO, N_MOVIMENTO FROM MOVIMENTI "
         "WHERE RIGA = 1 AND TESTO LIKE ?1 ESCAPE '\\' ORDER BY N_MOVIMENTO LIMIT ?2",
-    .table = "MOVIMENTI_IVA",
+    .table = journal::kVatTable,
     .key = kKey,
-    .fields = kFields,
+    .fields = journal::kVatFields,
     .heads = kHeads,
 };
-
-constexpr const char* kMakeTable =
-    "CREATE TABLE IF NOT EXISTS MOVIMENTI_IVA ("
-    "N_MOVIMENTO INTEGER PRIMARY KEY, COD_IVA INTEGER NOT NULL, "
-    "IMPONIBILE DECIMAL(19,4) NOT NULL, IVA DECIMAL(19,4) NOT NULL)";
 
 class VatLines final : public RecordScreen {
  public:
@@ -46,19 +36,11 @@ class VatLines final : public RecordScreen {
 
  protected:
   std::vector<Row> read(Store& store, const Key& key) const override {
-    const bool kept = !store.rows("SELECT 1 FROM sqlite_master WHERE name = 'MOVIMENTI_IVA'").empty();
-    if (kept) {
-      std::vector<Row> lines = store.rows("SELECT * FROM MOVIMENTI_IVA WHERE N_MOVIMENTO = ?1", key);
-      if (!lines.empty()) return lines;
-    }
-    const std::int64_t zero = 0;
-    return {{.columns = {"N_MOVIMENTO", "COD_IVA", "IMPONIBILE", "IVA"},
-             .values = {key.front(), zero, zero, zero},
-             .isNew = true}};
+    return {journal::vatLineOf(store, key.front())};
   }
 
   void write(Store& store, const BoundPanel& panel) const override {
-    store.run(kMakeTable);
+    journal::makeVatTable(store);
     RecordScreen::write(store, panel);
   }
 };

@@ -1,0 +1,16 @@
+// From panel to panel by the keyboard: the Tab key goes round within one.
+#pragma once
+
+#include <QWidget>
+#include <span>
+
+#include "platforms/qt/platform.h"
+#include "qvn/toolkit/panel.h"
+
+namespace qvn::ufficio {
+
+/// The first field of the panel that follows, or stands before, the one around a widget, of those that can be typed
+/// into; from outside of all, the first panel follows. Null where there is none.
+QWidget* fieldOfNeighbour(qt::Platform& platform, std::span<Panel* const> panels, const QWidget* from, bool forwards);
+
+}  // namespace qvn::ufficio

@@ -1,0 +1,34 @@
+// The types of movements: ctlMOVIMENTI on TIPI_MOVIMENTI.
+#include <array>
+
+#include "hosts/ufficio/record_screen.h"
+#include "hosts/ufficio/screens/makers.h"
+
+namespace qvn::ufficio::screens {
+
+namespace {
+
+constexpr std::array<std::string_view, 1> kKey{"COD_MOVIMENTO"};
+
+constexpr std::array kFields{
+    Field{"COD_MOVIMENTO", "COD_MOVIMENTO", Kind::Number},
+    Field{"DESCRIZIONE", "DESCRIZIONE", Kind::Text},
+};
+
+constexpr RecordDescription kMovementTypes{
+    .panelClass = "ctlMOVIMENTI",
+    .find =
+        "SELECT COD_MOVIMENTO || '  ' || DESCRIZIONE AS TESTO, COD_MOVIMENTO FROM TIPI_MOVIMENTI "
+        "WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY COD_MOVIMENTO LIMIT ?2",
+    .table = "TIPI_MOVIMENTI",
+    .key = kKey,
+    .fields = kFields,
+};
+
+}  // namespace
+
+std::unique_ptr<Screen> movementTypes(const ScreenSite& site) {
+  return std::make_unique<RecordScreen>(kMovementTypes, site);
+}
+
+}  // namespace qvn::ufficio::screens
