@@ -1,4 +1,4 @@
-// From panel to panel by the keyboard: the Tab key goes round within one.
+// From panel to panel by the keyboard, past the fields between and to those that are not in view.
 #pragma once
 
 #include <QWidget>
