@@ -8,7 +8,6 @@ namespace qvn::test {
 namespace {
 
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 class CreditDropping : public CreditPanel {
  public:

@@ -99,7 +99,7 @@ TEST_F(QtForm, FollowsItsPlace) {
     form->place(place);
     EXPECT_EQ(window().pos(), QPoint(0, 0));
     EXPECT_NEAR(window().width(), inside.width() + window().logicalDpiX(), 1);
-    EXPECT_NEAR(window().height(), inside.height() - window().logicalDpiY() / 2, 1);
+    EXPECT_NEAR(window().height(), inside.height() - window().logicalDpiY() / 2.0, 1);
     window().close();
   });
 }

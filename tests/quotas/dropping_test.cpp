@@ -114,14 +114,19 @@ TEST_P(QuotaDropping, WhileTheHandsTickAndEnterADate) {
 }
 
 TEST_P(QuotaDropping, WhileItAsksForTheDatabase) {
-  const std::vector<std::pair<std::string, std::string>> codes{{"ctlQ_POLIZZE", "COD_COMP"},
-                                                               {"ctlQ_POLIZZE", "COD_PROD"},
-                                                               {"ctlQ_POLIZZE", "COD_PROD_ALT"},
-                                                               {"ctlQ_SINISTRI", "COD_COMP"}};
-  for (const auto& [className, property] : codes) {
-    SCOPED_TRACE(className + "." + property);
+  struct Code {
+    std::string className;
+    std::string property;
+  };
+  const std::vector<Code> codes{{"ctlQ_POLIZZE", "COD_COMP"},
+                                {"ctlQ_POLIZZE", "COD_PROD"},
+                                {"ctlQ_POLIZZE", "COD_PROD_ALT"},
+                                {"ctlQ_SINISTRI", "COD_COMP"}};
+  for (const Code& code : codes) {
+    const std::string& property = code.property;
+    SCOPED_TRACE(code.className + "." + property);
     for (const bool answered : {false, true}) {
-      make(className);
+      make(code.className);
       Globale::unload();
       const Subscription host = Globale::Eventi()->MancaDB.subscribe([&] {
         panel.reset();

@@ -11,7 +11,6 @@ using testing::IsEmpty;
 using toolkit::Align;
 using toolkit::Place;
 using toolkit::WidgetKind;
-using toolkit::WidgetLayout;
 
 struct LaidOut {
   std::string name;

@@ -8,7 +8,6 @@
 namespace qvn::test {
 namespace {
 
-using testing::ElementsAre;
 using testing::IsEmpty;
 
 Strings fieldsOf(std::string_view className) {

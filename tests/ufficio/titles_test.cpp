@@ -29,6 +29,7 @@ class OfficeTitles : public AtWindow {
   QComboBox& actions(std::size_t panel = 0) { return dynamic_cast<QComboBox&>(widget("CmbTIPO_CONT", panel)); }
   std::vector<std::string> offered(std::size_t panel = 0) {
     std::vector<std::string> items;
+    items.reserve(static_cast<std::size_t>(actions(panel).count()));
     for (int i = 0; i < actions(panel).count(); ++i) items.push_back(qt::utf8(actions(panel).itemText(i)));
     return items;
   }
