@@ -12,7 +12,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 using toolkit::Align;
-using toolkit::kBlack;
 using toolkit::kWhite;
 using toolkit::WidgetKind;
 
