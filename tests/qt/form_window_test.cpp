@@ -69,6 +69,8 @@ class QtForm : public OnScreen {
   std::unique_ptr<toolkit::Form> form = platform.makeForm(kForm, container);
 };
 
+TEST_F(QtForm, CanBeMadeSoThatNoTestOfFormsIsPassedOver) { EXPECT_TRUE(platform.capabilities().modalForms); }
+
 TEST_F(QtForm, WaitsForTheDefaultKey) {
   focus(box());
   showAnd([this] {
