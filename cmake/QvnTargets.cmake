@@ -15,7 +15,9 @@ function(qvn_library target alias)
   target_include_directories(${target} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}>
                                               $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
   target_link_libraries(${target} PUBLIC ${arg_LINKS} PRIVATE $<BUILD_INTERFACE:qvn_options>)
-  set_target_properties(${target} PROPERTIES EXPORT_NAME ${alias})
+  # They also go into shared libraries, which show nothing of them.
+  set_target_properties(${target} PROPERTIES EXPORT_NAME ${alias} POSITION_INDEPENDENT_CODE ON
+    CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
   set_property(GLOBAL APPEND PROPERTY QVN_INSTALLED ${target})
 endfunction()
 
