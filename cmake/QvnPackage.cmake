@@ -15,6 +15,13 @@ set_target_properties(qvn_all PROPERTIES EXPORT_NAME qvn)
 install(TARGETS ${libraries} qvn_all EXPORT qvn)
 install(EXPORT qvn NAMESPACE qvn:: DESTINATION ${package_dir} FILE qvn-targets.cmake)
 
+# Apart from the layers, as a host in C needs none of what they rest on.
+if(TARGET qvn_component)
+  install(TARGETS qvn_component EXPORT qvn_component LIBRARY COMPONENT library NAMELINK_COMPONENT development)
+  install(EXPORT qvn_component NAMESPACE qvn:: DESTINATION ${package_dir} FILE qvn-component-targets.cmake)
+  install(FILES component/qvn.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/component)
+endif()
+
 # The headers of what was built, and of nothing else.
 file(GLOB_RECURSE headers CONFIGURE_DEPENDS RELATIVE ${PROJECT_SOURCE_DIR}
   ${PROJECT_SOURCE_DIR}/qvn/*.h ${PROJECT_SOURCE_DIR}/platforms/*.h)
@@ -24,14 +31,17 @@ endif()
 if(NOT QVN_QT)
   list(FILTER headers EXCLUDE REGEX "^platforms/qt/")
 endif()
+if(NOT QVN_DESIGNER)
+  list(FILTER headers EXCLUDE REGEX "^platforms/designer/")
+endif()
 foreach(header IN LISTS headers)
   cmake_path(GET header PARENT_PATH folder)
   install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
 endforeach()
 
-foreach(program qvn_play qvn_campione)
+foreach(program qvn_play qvn_campione qvn_ufficio)
   if(TARGET ${program})
-    install(TARGETS ${program})
+    install(TARGETS ${program} COMPONENT office)
   endif()
 endforeach()
 
@@ -39,8 +49,12 @@ configure_package_config_file(cmake/qvn-config.cmake.in qvn-config.cmake INSTALL
 write_basic_package_version_file(qvn-config-version.cmake COMPATIBILITY SameMinorVersion)
 install(FILES ${PROJECT_BINARY_DIR}/qvn-config.cmake ${PROJECT_BINARY_DIR}/qvn-config-version.cmake
   DESTINATION ${package_dir})
-install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT licence)
 
-if(QVN_TESTS)
+if(PROJECT_IS_TOP_LEVEL AND CMAKE_SYSTEM_NAME STREQUAL "Linux")
+  include(cmake/QvnPackageDebian.cmake)
+endif()
+
+if(QVN_TESTS AND NOT CMAKE_CROSSCOMPILING)
   add_subdirectory(tests/package)
 endif()

@@ -18,6 +18,7 @@ class OnPlatform : public testing::TestWithParam<PlatformMaker> {
     Globale::install(platform());
   }
   ~OnPlatform() override { Globale::uninstall(); }
+  void TearDown() override { under_->expectShown(); }
 
   toolkit::Platform& platform() { return under_->platform(); }
   Operator& hands() { return under_->hands(); }

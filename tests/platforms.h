@@ -8,13 +8,14 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "platforms/memory/platform.h"
 #include "platforms/operator.h"
-#ifdef QVN_QT
-#include "platforms/qt/platform.h"
-#endif
 #include "qvn/toolkit/platform.h"
+#ifdef QVN_QT
+#include "tests/qt/seen_platform.h"
+#endif
 
 namespace qvn::test {
 
@@ -28,6 +29,9 @@ class PlatformUnderTest {
   virtual void today(Date date) = 0;
   virtual void setLocale(const Locale& locale) = 0;
   virtual std::int64_t beeps() const = 0;
+  /// On a platform with a screen, what stands there is what the widgets of all panels and loaded forms say. It looks by
+  /// itself after each act of the hands, when a panel is made and goes, and when a form comes, is drawn and goes.
+  virtual void expectShown() = 0;
 };
 
 template <class P>
@@ -44,6 +48,9 @@ class UnderTest final : public PlatformUnderTest {
   void today(Date date) override { platform_.today(date); }
   void setLocale(const Locale& locale) override { platform_.setLocale(locale); }
   std::int64_t beeps() const override { return platform_.beeps(); }
+  void expectShown() override {
+    if constexpr (!std::is_same_v<P, memory::Platform>) platform_.expectShown();  // that one has no screen
+  }
 
  private:
   P platform_;
@@ -67,7 +74,7 @@ constexpr PlatformMaker platformOf(std::string_view name) {
 inline constexpr std::array kPlatforms{
     platformOf<memory::Platform>("memory"),
 #ifdef QVN_QT
-    platformOf<qt::OffscreenPlatform>("qt"),
+    platformOf<SeenPlatform>("qt"),
 #endif
 };
 

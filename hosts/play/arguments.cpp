@@ -13,7 +13,7 @@ const char* const kUsage =
 Plays a session: reads one JSON object a line from FILE, or from standard input, does to real panels what it says, and
 answers each with one JSON object on one line. Blank lines and lines that begin with # are passed over.
 
-  --toolkit NAME       the widgets that the panels are made of: memory (the default)
+  --toolkit NAME       the widgets that the panels are made of: memory (the default), or qt, where it was built
   --today YYYY-MM-DD   the clock's date; without it the system's
   --strict             exit with 1 if any request failed
   --help               this text
@@ -22,7 +22,7 @@ exit status:
   0  the end of the session
   1  with --strict: a request failed
   2  a line was no JSON object or asked for something unknown; or the command line was wrong, and nothing was played
-  3  FILE cannot be read, or the answers cannot be written
+  3  FILE cannot be read, the answers cannot be written, or memory has run out
 )";
 
 namespace {

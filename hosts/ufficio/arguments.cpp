@@ -5,13 +5,15 @@
 namespace qvn::ufficio {
 
 const char* const kUsage =
-    R"(usage: qvn-ufficio [DATABASE] [--screen NAME] [--picture FOLDER]
+    R"(usage: qvn-ufficio [DATABASE] [--screen NAME] [--picture FOLDER] [--dark] [--state FILE]
 
 The sample office: a window with its screens and their records, which are changed and stored.
 
   DATABASE          its database, as qvn-campione writes it; ufficio.db if not said
-  --screen NAME     the screen to begin with; the first one if not said
+  --screen NAME     the screen to begin with; the one shown last, or the first, if not said
   --picture FOLDER  write a picture of each screen with a record into FOLDER, as NAME.png, and end
+  --dark            in dark colours
+  --state FILE      where the window's place and last screen are kept; the user's settings if not said
   --help            this text
 
 exit status:
@@ -34,6 +36,10 @@ Arguments argumentsOf(std::span<char* const> words) {
     };
     if (word == "--help") {
       arguments.help = true;
+    } else if (word == "--dark") {
+      arguments.dark = true;
+    } else if (word == "--state") {
+      arguments.state = value();
     } else if (word == "--screen") {
       arguments.screen = value();
     } else if (word == "--picture") {

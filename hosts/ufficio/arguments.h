@@ -13,6 +13,8 @@ struct Arguments {
   std::string database = "ufficio.db";
   std::string screen;    ///< empty for the first
   std::string pictures;  ///< the folder that they are written to; empty for a window
+  std::string state;     ///< the file that the window's state is kept in; empty for the user's own
+  bool dark = false;
   bool help = false;
 };
 

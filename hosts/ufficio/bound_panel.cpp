@@ -51,8 +51,13 @@ BoundPanel::Reading BoundPanel::read(const Field& field) const {
   }
 }
 
-void BoundPanel::show(const Row& row, std::span<const Field> fields) {
+void BoundPanel::clear() {
   row_.reset();
+  removed_ = false;
+}
+
+void BoundPanel::show(const Row& row, std::span<const Field> fields) {
+  clear();
   for (const Field& field : fields) letByName(*panel_, field.property, shown(row.at(field.column), field.kind));
   fields_ = fields;
   asShown_.clear();
@@ -68,6 +73,7 @@ bool BoundPanel::differs(std::size_t field) const {
 
 bool BoundPanel::changed() const {
   if (!row_) return false;
+  if (removed_) return !row_->isNew;
   for (std::size_t field = 0; field < fields_.size(); ++field) {
     if (differs(field)) return true;
   }
@@ -88,6 +94,15 @@ void BoundPanel::write(Store& store, std::string_view table) const {
   const Row written = toBeStored();
   if (written.isNew) return addRow(store, table, written);
   update(store, table, row_.value(), written);
+}
+
+void BoundPanel::erase(Store& store, std::string_view table) const {
+  const Row& read = row_.value();
+  int place = 0;
+  const std::string which = listed(read.columns, " IS ", " AND ", place);
+  if (store.run(std::string("DELETE FROM ").append(table).append(" WHERE ").append(which), read.values) == 0) {
+    throw ChangedByOthers();
+  }
 }
 
 void addRow(Store& store, std::string_view table, const Row& row) {

@@ -28,8 +28,11 @@ class BoundPanel {
   /// What a property fails with passes, naming panel and property.
   void show(const Row& row, std::span<const Field> fields);
   /// The panel shows no row; what stands in its fields stays there.
-  void clear() { row_.reset(); }
+  void clear();
 
+  /// Marks the row as one to be erased. A change, if the table has it.
+  void remove() { removed_ = true; }
+  bool removed() const { return removed_; }
   bool changed() const;
 
   /// The row with what the panel gives in its changed fields. Fails with the library's Failure where one of them
@@ -38,6 +41,8 @@ class BoundPanel {
   /// Writes that row into the table: a new one is added, any other takes the place of what was read. StoreFailure if
   /// the table's row is no longer in every column what was read.
   void write(Store& store, std::string_view table) const;
+  /// Deletes from the table what was read. StoreFailure as by write().
+  void erase(Store& store, std::string_view table) const;
 
  private:
   /// What a property gave, or why it gave nothing.
@@ -52,6 +57,7 @@ class BoundPanel {
   std::unique_ptr<Panel> panel_;
   std::span<const Field> fields_;
   std::optional<Row> row_;
+  bool removed_ = false;
   std::vector<Reading> asShown_;
 };
 

@@ -61,6 +61,20 @@ Value storedDay(const Variant& given) {
 
 Currency amountOf(const Value& stored) { return as<Currency>(numberOf(stored), kDatabaseForm); }
 
+Value blank(Kind kind) {
+  switch (kind) {
+    case Kind::Text:
+      return std::string();
+    case Kind::Day:
+      return {};
+    case Kind::Number:
+    case Kind::Amount:
+    case Kind::Flag:
+      break;
+  }
+  return std::int64_t{0};
+}
+
 Variant shown(const Value& stored, Kind kind) {
   switch (kind) {
     case Kind::Text:

@@ -29,6 +29,9 @@ struct Field {
 /// day that is none.
 Variant shown(const Value& stored, Kind kind);
 
+/// What a column of that kind holds in a row that nothing was written into.
+Value blank(Kind kind);
+
 /// A stored amount; fails as shown() does.
 Currency amountOf(const Value& stored);
 

@@ -1,11 +1,13 @@
 // qvn-ufficio, the sample office.
 #include <QApplication>
+#include <QSettings>
 #include <QtGlobal>
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
 #include <exception>
 #include <iostream>
+#include <memory>
 #include <optional>
 #include <span>
 #include <string>
@@ -15,6 +17,7 @@
 #include "hosts/ufficio/register.h"
 #include "hosts/ufficio/window.h"
 #include "platforms/qt/platform.h"
+#include "platforms/qt/texts.h"
 #include "platforms/sqlite/driver.h"
 #include "qvn/shared/Globale.h"
 
@@ -33,11 +36,11 @@ class Installed {
   Installed& operator=(const Installed&) = delete;
 };
 
-std::size_t numberOf(const std::string& screen) {
+std::optional<std::size_t> numberOf(const std::string& screen) {
+  if (screen.empty()) return {};
   const std::span<const ScreenClass> classes = screenClasses();
   const auto found = std::ranges::find(classes, screen, &ScreenClass::name);
   if (found != classes.end()) return static_cast<std::size_t>(found - classes.begin());
-  if (screen.empty()) return 0;
   std::string names;
   for (const ScreenClass& made : classes) names.append(names.empty() ? "" : ", ").append(made.name);
   throw WrongUsage("there is no screen " + screen + "; there is: " + names);
@@ -61,8 +64,13 @@ class OpeningDisplay {
   static inline QtMessageHandler before_ = nullptr;
 };
 
+std::unique_ptr<QSettings> stateFile(const std::string& file) {
+  if (file.empty()) return std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope, "qvn", "ufficio");
+  return std::make_unique<QSettings>(qvn::qt::shown(file), QSettings::IniFormat);
+}
+
 int run(const Arguments& arguments) {
-  const std::size_t first = numberOf(arguments.screen);
+  const std::optional<std::size_t> first = numberOf(arguments.screen);
   const bool window = arguments.pictures.empty();
   std::optional<OpeningDisplay> opening(std::in_place);
   qvn::qt::Platform platform(window ? qvn::qt::Display::Desktop : qvn::qt::Display::Offscreen);
@@ -71,8 +79,13 @@ int run(const Arguments& arguments) {
   const Installed installed(platform);
   Store store(arguments.database);
   Window office(platform, store, screenClasses());
+  if (!window && arguments.dark) office.darken();
   if (!window) return writePictures(office, screenClasses(), arguments.pictures) ? kClosed : kPicturesMissing;
-  office.chooseScreen(first);
+  const std::unique_ptr<QSettings> state = stateFile(arguments.state);
+  office.keepStateIn(*state);
+  if (arguments.dark) office.darken();
+  if (first) office.chooseScreen(*first);
+  if (office.screen() == nullptr) office.chooseScreen(0);
   office.show();
   office.chooser().focusFilter();
   return QApplication::exec();

@@ -6,8 +6,6 @@
 
 namespace qvn::ufficio {
 
-namespace {
-
 QWidget* firstFieldOf(qt::Platform& platform, const Panel& panel) {
   QWidget* first = nullptr;
   int tab = 0;
@@ -21,11 +19,14 @@ QWidget* firstFieldOf(qt::Platform& platform, const Panel& panel) {
   return first;
 }
 
-}  // namespace
+const Panel* panelAround(qt::Platform& platform, std::span<Panel* const> panels, const QWidget* widget) {
+  const auto found = std::ranges::find_if(
+      panels, [&](const Panel* panel) { return platform.widgetOf(panel->surface()).isAncestorOf(widget); });
+  return found == panels.end() ? nullptr : *found;
+}
 
 QWidget* fieldOfNeighbour(qt::Platform& platform, std::span<Panel* const> panels, const QWidget* from, bool forwards) {
-  const auto here = std::ranges::find_if(
-      panels, [&](const Panel* panel) { return platform.widgetOf(panel->surface()).isAncestorOf(from); });
+  const auto here = std::ranges::find(panels, panelAround(platform, panels, from));
   const auto count = std::ssize(panels);
   const std::ptrdiff_t step = forwards ? 1 : -1;
   std::ptrdiff_t place = here == panels.end() ? -1 : here - panels.begin();

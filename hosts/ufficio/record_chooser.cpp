@@ -71,6 +71,11 @@ void RecordChooser::focusFilter() {
   filter_->selectAll();
 }
 
+void RecordChooser::focusFirst() {
+  records_->setCurrentRow(std::max(records_->currentRow(), 0));
+  records_->setFocus();
+}
+
 void RecordChooser::choose(int row) {
   if (row < 0 || static_cast<std::size_t>(row) >= found_.size()) return;
   const Found record = found_[static_cast<std::size_t>(row)];  // what it leads to may find others
@@ -80,8 +85,7 @@ void RecordChooser::choose(int row) {
 bool RecordChooser::eventFilter(QObject* watched, QEvent* event) {
   if (watched == filter_ && event->type() == QEvent::KeyPress && !found_.empty() &&
       static_cast<const QKeyEvent*>(event)->key() == Qt::Key_Down) {
-    records_->setCurrentRow(std::max(records_->currentRow(), 0));
-    records_->setFocus();
+    focusFirst();
     return true;
   }
   return QWidget::eventFilter(watched, event);

@@ -24,6 +24,7 @@ class RecordChooser final : public QWidget {
   QString filter() const { return filter_->text(); }
   /// Empties the filter without a word about it.
   void clearFilter();
+  void filterBy(const QString& text) { filter_->setText(text); }
   /// The records that the filter has found; so many of them are shown.
   void show(std::vector<Found> found, int most = kMost);
   /// Shows none, without a word about it.
@@ -34,6 +35,8 @@ class RecordChooser final : public QWidget {
 
   void focusFilter();
   void focusRecords() { records_->setFocus(); }
+  /// The same, with the first record marked where none is.
+  void focusFirst();
 
  signals:
   void filterChanged();

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <string>
 
 #include "hosts/ufficio/finding.h"
@@ -49,7 +50,8 @@ std::vector<Row> RecordScreen::read(Store& store, const Key& key) const {
   if (!description_.order.empty()) sql.append(" ORDER BY ").append(description_.order);
   if (description_.panels != kAllRows) sql.append(" LIMIT ").append(std::to_string(description_.panels + 1));
   std::vector<Row> rows = store.rows(sql, key);
-  if (rows.empty()) throw StoreFailure("il record non c'è più: è stato eliminato da altri");
+  if (rows.empty() && description_.adding != Reach::Row)
+    throw StoreFailure("il record non c'è più: è stato eliminato da altri");
   if (description_.panels != kAllRows && rows.size() > panels_.size()) {
     throw StoreFailure("il record ha più righe di quante la schermata ne mostra");
   }
@@ -59,7 +61,8 @@ std::vector<Row> RecordScreen::read(Store& store, const Key& key) const {
 void RecordScreen::show(Store& /*store*/, BoundPanel& panel, const Row& row) { panel.show(row, description_.fields); }
 
 void RecordScreen::load(Store& store, const Key& key) {
-  const std::vector<Row> rows = read(store, key);
+  const bool begins = description_.adding == Reach::Record && key == newKey();
+  const std::vector<Row> rows = begins ? std::vector{newRow(key)} : read(store, key);
   key_.clear();
   while (panels_.size() < rows.size()) addPanel();
   for (std::size_t i = 0; i < panels_.size(); ++i) {
@@ -84,17 +87,102 @@ void RecordScreen::Disattiva() {
   for (const BoundPanel& bound : panels_) callByName(bound.panel(), "Disattiva", {});
 }
 
-bool RecordScreen::changed() const { return std::ranges::any_of(panels_, &BoundPanel::changed); }
+bool RecordScreen::changed() const {
+  return std::ranges::any_of(panels_, [this](const BoundPanel& bound) { return changedIn(bound); });
+}
 
-void RecordScreen::write(Store& store, const BoundPanel& panel) const { panel.write(store, description_.table); }
+void RecordScreen::write(Store& store, const BoundPanel& panel) const {
+  if (!description_.needed.column.empty()) {
+    const Row row = panel.toBeStored();
+    const Value& needed = row.at(description_.needed.column);
+    if (textOf(needed).empty() || (row.isNew && needed == Value(std::int64_t{0}))) {
+      throw StoreFailure("manca " + std::string(description_.needed.called));
+    }
+  }
+  panel.write(store, description_.table);
+}
+
+void RecordScreen::erase(Store& store, const BoundPanel& panel) const { panel.erase(store, description_.table); }
+
+Row RecordScreen::newRow(const Key& record) const {
+  Row row{.columns = {description_.key.begin(), description_.key.end()}, .values = record, .isNew = true};
+  for (const Field& field : description_.fields) {
+    if (std::ranges::find(description_.key, field.column) != description_.key.end()) continue;
+    row.columns.emplace_back(field.column);
+    row.values.push_back(blank(field.kind));
+  }
+  for (const std::string_view column : description_.others) {
+    row.columns.emplace_back(column);
+    row.values.push_back(blank(Kind::Amount));
+  }
+  return row;
+}
+
+Key RecordScreen::newKey() const {
+  Key key;
+  key.reserve(description_.key.size());
+  for (const std::string_view column : description_.key) {
+    const auto field = std::ranges::find(description_.fields, column, &Field::column);
+    key.push_back(field == description_.fields.end() ? Value() : blank(field->kind));
+  }
+  return key;
+}
+
+Panel* RecordScreen::beginRow(Store& store) {
+  auto free = std::ranges::find_if(
+      panels_, [](const BoundPanel& bound) { return bound.row() && bound.row()->isNew && !bound.changed(); });
+  if (free == panels_.end()) {
+    free = std::ranges::find_if(panels_, [](const BoundPanel& bound) { return !bound.row(); });
+    if (free == panels_.end()) {
+      if (description_.panels != kAllRows) throw StoreFailure("la schermata non ha posto per altre righe");
+      addPanel();
+      free = std::prev(panels_.end());
+    }
+    callByName(free->panel(), "Disattiva", {});
+    show(store, *free, newRow(key_));
+    free->panel().surface().Visible(true);
+  }
+  activate(free->panel());
+  return &free->panel();
+}
+
+void RecordScreen::removeRow(const Panel& panel) {
+  const auto its = std::ranges::find_if(panels_, [&](const BoundPanel& bound) { return &bound.panel() == &panel; });
+  if (its == panels_.end() || !its->row()) return;
+  its->panel().surface().Visible(false);
+  if (its->row()->isNew) return its->clear();
+  its->remove();
+}
+
+void RecordScreen::remove(Store& store) {
+  Store::Transaction transaction(store);
+  for (const Use& use : description_.uses) {
+    if (!store.hasTable(use.table)) continue;
+    std::string sql = std::string("SELECT 1 FROM ").append(use.table).append(" WHERE ").append(use.column);
+    if (store.rows(sql.append(" = ?1 LIMIT 1"), key_).empty()) continue;
+    throw StoreFailure(std::string("il record è ancora usato da ").append(use.called));
+  }
+  erase(store, panels_.front());
+  transaction.commit();
+  forget();
+}
 
 Key RecordScreen::save(Store& store) {
   Key key;
   Store::Transaction transaction(store);
+  // What goes makes room for what comes with its code.
   for (const BoundPanel& bound : panels_) {
-    if (bound.changed()) write(store, bound);
+    if (bound.removed()) erase(store, bound);
   }
-  const Row first = panels_.front().toBeStored();
+  for (const BoundPanel& bound : panels_) {
+    if (!bound.removed() && changedIn(bound)) write(store, bound);
+  }
+  if (!panels_.front().row()) {
+    transaction.commit();
+    return key_;
+  }
+  const BoundPanel& front = panels_.front();
+  const Row first = front.removed() ? front.row().value() : front.toBeStored();
   key.reserve(description_.key.size());
   for (const std::string_view column : description_.key) key.push_back(first.at(column));
   transaction.commit();

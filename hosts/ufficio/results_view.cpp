@@ -38,6 +38,9 @@ ResultsView::ResultsView(qt::Platform& platform, Store& store, ResultScreen& scr
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*before*/, QWidget* now) { followFocus(now); });
 }
 
+// A panel that has the focus gives it away as it goes, when this is no view any more.
+ResultsView::~ResultsView() { disconnect(qApp, nullptr, this, nullptr); }
+
 std::size_t ResultsView::firstInView() const {
   return static_cast<std::size_t>(verticalScrollBar()->value() / (panel_.height() + kBetween));
 }

@@ -19,6 +19,7 @@ class ResultsView final : public QAbstractScrollArea {
   /// `failed` hears of records that cannot be shown.
   ResultsView(qt::Platform& platform, Store& store, ResultScreen& screen,
               std::function<void(const std::exception&)> failed);
+  ~ResultsView() override;
 
   /// Shows what the screen has taken, from its beginning.
   void renew();

@@ -1,6 +1,7 @@
 // What the office's window asks of each of its screens.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <span>
 #include <string>
@@ -28,6 +29,13 @@ struct Found {
 struct Head {
   std::string_view widget;
   std::string_view caption;
+};
+
+/// What a command adds or takes away at a screen.
+enum class Reach : std::uint8_t {
+  Nothing,
+  Record,  ///< a record
+  Row,     ///< a row of the record that is shown, for save() to store
 };
 
 /// One or several panels, and the records that go into them. Where the database does not do what it is asked to, its
@@ -72,6 +80,23 @@ class Screen {
   /// Stores what was changed, all or nothing, unless another has changed the record since it was loaded; the key of the
   /// record as it is now. What the panels show stays, whatever happens.
   virtual Key save(Store& store) = 0;
+
+  /// What can be added here. A record: load() of this key shows one that is not stored yet, and save() stores it. A
+  /// row: beginRow(), between Attiva and Disattiva, shows an empty one in a panel that it lets the operator type into.
+  virtual Reach adding() const { return Reach::Nothing; }
+  virtual Key newKey() const { return {}; }
+  virtual Panel* beginRow(Store& /*store*/) { return nullptr; }
+  /// Where records to be begun are found among the others, the filter that finds them.
+  virtual std::string_view newFilter() const { return {}; }
+
+  /// What can be taken away here. A record: remove() deletes the one that is shown, unless another has changed it or
+  /// other tables refer to it, and shows none. A row: removeRow(), between Attiva and Disattiva, hides that of a panel.
+  virtual Reach removing() const { return Reach::Nothing; }
+  virtual void remove(Store& /*store*/) {}
+  virtual void removeRow(const Panel& /*panel*/) {}
+
+  /// Shows no record.
+  virtual void forget() {}
 };
 
 /// What a screen is made with. Container and settings must outlive it.

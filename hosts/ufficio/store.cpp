@@ -9,6 +9,9 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
+/// No version that a database has.
+constexpr std::int64_t kOtherFile = -1;
+
 /// Steps of the database's machine between two looks at the clock.
 constexpr int kStepsPerLook = 10'000;
 
@@ -22,6 +25,10 @@ constexpr int kStepsPerLook = 10'000;
     case SQLITE_BUSY:
     case SQLITE_LOCKED:
       throw StoreFailure("il database è occupato da un altro programma; riprovare tra poco");
+    case SQLITE_FULL:
+      throw StoreFailure("il disco è pieno, o il database non può più crescere; liberare spazio e riprovare");
+    case SQLITE_IOERR:
+      throw StoreFailure("il disco non legge o non scrive il database " + path + " (" + words + ")");
     case SQLITE_READONLY:
       throw StoreFailure("il database " + path + " è di sola lettura");
     case SQLITE_CONSTRAINT:
@@ -82,7 +89,17 @@ class Deadline {
 
 }  // namespace
 
+void Store::leaveWhatHasMoved() {
+  int moved = 0;
+  if (!database_ || sqlite3_get_autocommit(database_.get()) == 0) return;
+  sqlite3_file_control(database_.get(), nullptr, SQLITE_FCNTL_HAS_MOVED, &moved);
+  if (moved == 0) return;
+  database_.reset();
+  version_ = kOtherFile;
+}
+
 void Store::open() {
+  leaveWhatHasMoved();
   if (database_) return;
   sqlite3* opened = nullptr;
   const int result = sqlite3_open_v2(path_.c_str(), &opened, SQLITE_OPEN_READWRITE, nullptr);
@@ -94,6 +111,7 @@ void Store::open() {
     fail(opened, path_);
   }
   database_ = std::move(database);
+  if (version_ == 0) othersWrote();
 }
 
 bool Store::canOpen() noexcept {
@@ -101,6 +119,16 @@ bool Store::canOpen() noexcept {
     open();
     return true;
   } catch (const StoreFailure&) {
+    return false;
+  }
+}
+
+bool Store::othersWrote() noexcept {
+  try {
+    const std::int64_t before = version_;
+    version_ = std::get<std::int64_t>(rows("PRAGMA data_version").front().values.front());
+    return before != 0 && before != version_;
+  } catch (const std::exception&) {
     return false;
   }
 }

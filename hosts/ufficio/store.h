@@ -27,6 +27,8 @@ class Store {
   /// Opens the file, if it is not open, and looks at it.
   void open();
   bool canOpen() noexcept;
+  /// Whether another connection has written since this was asked last. False where the file cannot be read.
+  bool othersWrote() noexcept;
 
   /// The rows that a statement gives, its parameters ?1, ?2, … bound in their order.
   std::vector<Row> rows(const std::string& sql, std::span<const Value> parameters = {});
@@ -59,7 +61,11 @@ class Store {
   bool step(sqlite3_stmt& statement);
 
   std::string path_;
+  /// Closes a file that is no longer in its place, between two transactions.
+  void leaveWhatHasMoved();
+
   std::unique_ptr<sqlite3, Closing> database_;
+  std::int64_t version_ = 0;  // of what the file held when othersWrote() was asked last
 };
 
 }  // namespace qvn::ufficio

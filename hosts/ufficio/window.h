@@ -1,25 +1,26 @@
 // The office's window: its screens, the records of the one that is shown, and what can be done with them.
 #pragma once
 
-#include <QAction>
-#include <QLabel>
-#include <QListWidget>
 #include <QMainWindow>
-#include <QPointer>
-#include <QStackedWidget>
-#include <memory>
+#include <QSettings>
+#include <cstddef>
 #include <span>
-#include <string_view>
+#include <utility>
 #include <vector>
 
+#include "hosts/ufficio/attempts.h"
+#include "hosts/ufficio/commands.h"
+#include "hosts/ufficio/field_focus.h"
 #include "hosts/ufficio/library_connection.h"
-#include "hosts/ufficio/notice.h"
 #include "hosts/ufficio/print_dialog.h"
 #include "hosts/ufficio/record_chooser.h"
-#include "hosts/ufficio/results_view.h"
+#include "hosts/ufficio/record_desk.h"
+#include "hosts/ufficio/removing.h"
 #include "hosts/ufficio/screen.h"
 #include "hosts/ufficio/settings.h"
+#include "hosts/ufficio/shown_screen.h"
 #include "hosts/ufficio/unsaved.h"
+#include "hosts/ufficio/window_parts.h"
 #include "platforms/qt/announcements.h"
 #include "platforms/qt/platform.h"
 
@@ -35,57 +36,46 @@ class Window final : public QMainWindow {
 
   /// How to ask about changes that are not stored; to begin with, by askInWindow().
   void askBy(AskUnsaved ask) { ask_ = std::move(ask); }
+  /// How to ask before something is removed; to begin with, by askToRemoveInWindow().
+  void askRemovalBy(AskToGoOn ask) { askRemoval_ = std::move(ask); }
   /// How to ask for the file of a print; to begin with, by askFileInWindow().
   void askFileBy(AskFile ask) { askFile_ = std::move(ask); }
 
   /// What the operator does by the list of screens, the chooser and the commands. False where it came to nothing, as
   /// the notice tells, or the operator has wanted to stay.
   bool chooseScreen(std::size_t number);
-  bool openRecord(const Found& record);
-  bool edit();
-  bool save();
-  bool cancel();
+  bool openRecord(const Found& record) { return desk_.open(record); }
+  bool edit() { return desk_.edit(); }
+  bool add();
+  bool save() { return desk_.save(); }
+  bool cancel() { return desk_.cancel(); }
+  bool remove();
+  /// Reads the list and the record that is shown again, unless it is being changed.
+  bool renew() { return desk_.renew(); }
   bool print();
+  void help();
+
+  /// Shows all windows of the program in dark colours.
+  void darken() { commands_[Command::Dark].setChecked(true); }
+  /// Takes place, parts, appearance and last screen from there, and puts them there when it closes. The settings must
+  /// outlive it.
+  void keepStateIn(QSettings& settings);
 
   /// The screen that is shown; null where it could not be made.
-  Screen* screen() const { return current_ == nullptr ? nullptr : current_->screen.get(); }
-  RecordChooser& chooser() const { return *chooser_; }
-  QString notice() const { return notice_->text(); }
-  bool editing() const { return editing_; }
+  Screen* screen() const { return desk_.screen(); }
+  RecordChooser& chooser() const { return *parts_.chooser; }
+  QString notice() const { return parts_.notice->text(); }
+  bool editing() const { return desk_.editing(); }
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  /// What others have stored in the meantime is shown when the operator comes back to the window.
+  void changeEvent(QEvent* event) override;
 
  private:
-  /// A screen that was shown before, and where it stands.
-  struct Shown {
-    const ScreenClass* made = nullptr;
-    std::unique_ptr<Screen> screen;
-    QWidget* page = nullptr;
-    std::unique_ptr<ResultsView> results;  ///< the page, where it is one; goes before its screen
-    std::unique_ptr<ResultsView> lines;    ///< below the panels, where there are some
-    QString record;                        ///< the text of the record that it shows
-  };
-
-  void layOut();
-  void addCommands();
-  void addSettings();
-  QAction* addCommand(const char* name, const char* caption, const QKeySequence& keys, const char* tip);
-  /// Does the work; where it fails, tells so behind these words.
-  template <class Work>
-  bool attempt(const QString& failed, Work work);
-
-  bool makeScreen(Shown& shown);
-  std::unique_ptr<ResultsView> makeResults(ResultScreen& results);
-  void findRecords();
-  void takeResults(std::span<const Found> found);
-  bool load(const Key& key);
-  /// Takes the focus from the panels, so that the field is left as by hand. False if that failed.
-  bool leaveField();
-  void backToField();
+  void connectCommands();
+  bool makeScreen(ShownScreen& shown);
   void stepToPanel(bool forwards);
-  /// Ends the editing, if the operator lets it end.
-  bool leaveRecord();
   void showState();
   void tellFailure(const QString& panel, const QString& widget, const QString& event, const QString& message,
                    FailureKind kind);
@@ -97,23 +87,15 @@ class Window final : public QMainWindow {
   qt::Announcements announcements_;  // before the panels, which announce to it
   AskUnsaved ask_;
   AskFile askFile_;
-  std::vector<Shown> screens_;
-  Shown* current_ = nullptr;
-  bool editing_ = false;
-  int failures_ = 0;
-  QPointer<QWidget> field_;  // of the panels, the one that had the focus last
+  AskToGoOn askRemoval_;
+  QSettings* settingsFile_ = nullptr;
+  std::vector<ShownScreen> screens_;
 
-  QListWidget* list_ = nullptr;
-  RecordChooser* chooser_ = nullptr;
-  QLabel* heading_ = nullptr;
-  QStackedWidget* pages_ = nullptr;
-  QLabel* remark_ = nullptr;
-  Notice* notice_ = nullptr;
-  QAction* edit_ = nullptr;
-  QAction* save_ = nullptr;
-  QAction* cancel_ = nullptr;
-  QAction* print_ = nullptr;
-  QAction* mayCancel_ = nullptr;
+  const Commands commands_{*this};
+  const WindowParts parts_;
+  const Attempts attempt_{connection_, *parts_.notice};
+  FieldFocus field_{platform_, *parts_.chooser, attempt_};
+  RecordDesk desk_;
 };
 
 }  // namespace qvn::ufficio

@@ -10,14 +10,6 @@
 
 namespace qvn::memory {
 
-namespace {
-
-/// What a window's frame and title add to the size of its inside, in twips.
-constexpr std::int32_t kFrameWidth = 120;
-constexpr std::int32_t kFrameHeight = 465;
-
-}  // namespace
-
 void Form::operator delete(Form* form, std::destroying_delete_t) {
   form->unload([&](const std::exception_ptr& thrown) {
     try {

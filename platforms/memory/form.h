@@ -1,6 +1,7 @@
 // A form in memory.
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <new>
 #include <string>
@@ -14,6 +15,10 @@
 namespace qvn::memory {
 
 class Platform;
+
+/// What a window's frame and title add to the size of its inside, in twips.
+inline constexpr std::int32_t kFrameWidth = 120;
+inline constexpr std::int32_t kFrameHeight = 465;
 
 /// One modal showing of a form, for as long as its call runs.
 struct Showing {

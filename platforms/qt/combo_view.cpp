@@ -1,5 +1,7 @@
 #include "platforms/qt/combo_view.h"
 
+#include <QAbstractItemView>
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QStyleOptionComboBox>
 #include <QWheelEvent>
@@ -11,8 +13,45 @@
 
 namespace qvn::qt {
 
+namespace {
+
+/// Has a name and a value. Qt's own tells the current item for both, and leaves the name to labels that are tied to it.
+class SpokenList final : public QAccessibleWidget {
+ public:
+  explicit SpokenList(ComboView& view) : QAccessibleWidget(&view, QAccessible::ComboBox), box_(view) {}
+
+  QString text(QAccessible::Text what) const override {
+    return what == QAccessible::Value ? box_.currentText() : QAccessibleWidget::text(what);
+  }
+  int childCount() const override { return 1; }
+  QAccessibleInterface* child(int index) const override {
+    return index == 0 ? QAccessible::queryAccessibleInterface(box_.view()) : nullptr;
+  }
+  int indexOfChild(const QAccessibleInterface* child) const override {
+    return child != nullptr && child->object() == box_.view() ? 0 : -1;
+  }
+  QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
+  QStringList actionNames() const override { return {showMenuAction(), pressAction()}; }
+  void doAction(const QString& action) override {
+    if (!actionNames().contains(action)) return;
+    if (box_.view()->isVisible()) return box_.hidePopup();
+    box_.showPopup();
+  }
+
+ private:
+  ComboView& box_;
+};
+
+QAccessibleInterface* speakerOf(const QString& /*className*/, QObject* object) {
+  auto* view = dynamic_cast<ComboView*>(object);
+  return view == nullptr ? nullptr : new SpokenList(*view);  // Qt keeps it until the view goes
+}
+
+}  // namespace
+
 ComboView::ComboView(Screen& screen, toolkit::ComboBox& model, QWidget& parent)
     : QComboBox(&parent), View(screen, model) {
+  QAccessible::installFactory(speakerOf);  // once, as often as it is told
   connect(this, &QComboBox::activated, this, [this](int index) {
     if (!byPerson()) return;
     onScreen().act(*subject(), "Click", [&](memory::Hands& hands) { hands.choose(list(), index); });

@@ -50,7 +50,7 @@ FieldView::FieldView(Screen& screen, toolkit::EditableText& model, QWidget& pare
   connect(this, &QLineEdit::selectionChanged, this, [this] { takeSelection(); });
   connect(this, &QLineEdit::cursorPositionChanged, this, [this] { takeSelection(); });
   // An assistive program may write the text past all keys: what the field says is put back.
-  connect(this, &QLineEdit::textEdited, this, [this] {
+  connect(this, &QLineEdit::textChanged, this, [this] {
     if (byPerson()) onScreen().showAgain(*this);
   });
 }

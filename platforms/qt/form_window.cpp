@@ -12,13 +12,8 @@
 
 namespace qvn::qt {
 
-namespace {
-
-/// How much of a form's size is its frame, in twips.
-constexpr std::int32_t kFrameWidth = 120;
-constexpr std::int32_t kFrameHeight = 465;
-
-}  // namespace
+using memory::kFrameHeight;
+using memory::kFrameWidth;
 
 FormWindow::FormWindow(Screen& screen, PanelWidget& inside) : screen_(screen) {
   setWindowModality(Qt::ApplicationModal);

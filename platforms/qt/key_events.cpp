@@ -30,8 +30,14 @@ constexpr std::array kNamedKeys{NamedKey{Qt::Key_Return, {KeyName::Enter, 13}},
                                 NamedKey{Qt::Key_Home, {KeyName::Home, 0}},
                                 NamedKey{Qt::Key_End, {KeyName::End, 0}}};
 
+/// AltGr comes as Control with Alt and types; either alone does not.
+bool types(const QKeyEvent& event) {
+  const Qt::KeyboardModifiers held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
+  return held == Qt::NoModifier || held == (Qt::ControlModifier | Qt::AltModifier);
+}
+
 bool isDecimalKey(const QKeyEvent& event) {
-  if (!event.modifiers().testFlag(Qt::KeypadModifier)) return false;
+  if (!types(event) || !event.modifiers().testFlag(Qt::KeypadModifier)) return false;
   return event.key() == Qt::Key_Period || event.key() == Qt::Key_Comma;
 }
 
@@ -49,12 +55,6 @@ bool isCombined(const QKeyEvent& event) {
     default:
       return alone != Qt::NoModifier;
   }
-}
-
-/// AltGr comes as Control with Alt and types; either alone does not.
-bool types(const QKeyEvent& event) {
-  const Qt::KeyboardModifiers held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
-  return held == Qt::NoModifier || held == (Qt::ControlModifier | Qt::AltModifier);
 }
 
 }  // namespace

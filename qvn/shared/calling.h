@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -55,10 +56,21 @@ template <class T>
 using Held =
     std::conditional_t<std::is_same_v<std::remove_cvref_t<T>, std::string_view>, std::string, std::remove_cvref_t<T>>;
 
+/// What an argument for a parameter of type T is held in while the function runs. An array stays where it is: nothing
+/// converts to one but an array.
+template <class T>
+using HeldArgument =
+    std::conditional_t<std::is_same_v<T, const CurrencyArray&>, std::reference_wrapper<const CurrencyArray>, Held<T>>;
+
 /// An argument as the type that it is held in. Its failures say which of the arguments it is, from 1.
 template <class Target>
 Target argument(std::span<const Variant> args, std::size_t index, const Locale& locale) {
-  return placed("argument " + std::to_string(index + 1), [&] { return as<Target>(args[index], locale); });
+  if constexpr (std::is_same_v<Target, std::reference_wrapper<const CurrencyArray>>) {
+    if (!std::holds_alternative<CurrencyArray>(args[index])) argument<CurrencyArray>(args, index, locale);
+    return std::cref(std::get<CurrencyArray>(args[index]));
+  } else {
+    return placed("argument " + std::to_string(index + 1), [&] { return as<Target>(args[index], locale); });
+  }
 }
 
 /// Calls a function with as many variants as it has parameters, each converted to its parameter's type. Parameters that
@@ -73,10 +85,10 @@ Variant callWith(std::span<Variant> args, const Locale& locale, Function&& funct
                                                 std::to_string(args.size()));
   }
   return [&]<std::size_t... I>(std::index_sequence<I...>)->Variant {
-    std::tuple<Held<Parameters>...> held{argument<Held<Parameters>>(args, I, locale)...};
+    std::tuple<HeldArgument<Parameters>...> held{argument<HeldArgument<Parameters>>(args, I, locale)...};
     struct GiveBack {
       std::span<Variant> args;
-      std::tuple<Held<Parameters>...>& held;
+      std::tuple<HeldArgument<Parameters>...>& held;
       ~GiveBack() {
         [[maybe_unused]] auto one = [&]<std::size_t J, class Parameter>() {
           if constexpr (std::is_lvalue_reference_v<Parameter> && !std::is_const_v<std::remove_reference_t<Parameter>>)

@@ -47,14 +47,16 @@ char* put(char* to, std::string_view text) {
 /// Writes the digits of a number so that they end at a place, at least so many; where they begin.
 char* putBackwards(char* end, std::uint64_t number, std::size_t atLeast) {
   char* begin = end;
-  while (number >= 100) {
+  const auto putPair = [&begin](std::uint64_t pair) {
     begin -= 2;
-    std::memcpy(begin, &kPairs[number % 100 * 2], 2);
+    std::memcpy(begin, &kPairs[static_cast<std::size_t>(pair) * 2], 2);
+  };
+  while (number >= 100) {
+    putPair(number % 100);
     number /= 100;
   }
   if (number >= 10) {
-    begin -= 2;
-    std::memcpy(begin, &kPairs[number * 2], 2);
+    putPair(number);
   } else if (number > 0) {
     *--begin = static_cast<char>('0' + number);
   }

@@ -16,7 +16,7 @@ using toolkit::kBlack;
 using toolkit::kWhite;
 using toolkit::WidgetKind;
 
-Currency money(std::string_view amount) { return toCurrency(amount, Locale{}); }
+Currency euros(std::string_view amount) { return toCurrency(amount, Locale{}); }
 
 class JournalLine : public PlainPanel<ctlSTP_MOVIMENTI> {
  public:
@@ -80,7 +80,7 @@ TEST_P(JournalLine, ShowsTheLineAndGivesBackOnlyTheFlag) {
   panel->NDOC("417");
   panel->DESC_1("Incasso è");
   panel->DESC_2("Nardò");
-  panel->IMPORTO(money("1500"));
+  panel->IMPORTO(euros("1500"));
   panel->TIPO("D");
   EXPECT_EQ(mark().Text(), "X");
   EXPECT_EQ(caption("LblRIF"), "12");
@@ -155,14 +155,14 @@ TEST_P(JournalLine, TheAmountWaitsUnseenInPlainText) {
                                       {"1234567,8901", "1234567,8901"},
                                       {"0", "0"},
                                       {"922337203685477,5807", "922337203685477,5807"}}) {
-    panel->IMPORTO(money(amount));
+    panel->IMPORTO(euros(amount));
     EXPECT_EQ(caption("LblIMPORTO"), plain);
     EXPECT_THAT(columns(), ElementsAre("", ""));
   }
 }
 
 TEST_P(JournalLine, ADebitStandsInTheDebitColumnBesideAZero) {
-  panel->IMPORTO(money("1500"));
+  panel->IMPORTO(euros("1500"));
   panel->TIPO("D");
   EXPECT_THAT(columns(), ElementsAre("€ 1.500,00", "€ 0,00"));
   EXPECT_EQ(caption("LblTIPO"), "");
@@ -170,7 +170,7 @@ TEST_P(JournalLine, ADebitStandsInTheDebitColumnBesideAZero) {
 
 TEST_P(JournalLine, EverythingElseStandsInTheCreditColumn) {
   for (const std::string_view side : {"A", "X", "", "d", "DARE", "D ", "a"}) {
-    panel->IMPORTO(money("1500"));
+    panel->IMPORTO(euros("1500"));
     panel->TIPO("D");
     panel->TIPO(side);
     EXPECT_THAT(columns(), ElementsAre("€ 0,00", "€ 1.500,00")) << side;
@@ -179,7 +179,7 @@ TEST_P(JournalLine, EverythingElseStandsInTheCreditColumn) {
 }
 
 TEST_P(JournalLine, TheColumnsKeepTheirColours) {
-  panel->IMPORTO(money("1500"));
+  panel->IMPORTO(euros("1500"));
   for (const std::string_view side : {"D", "A"}) {
     panel->TIPO(side);
     EXPECT_EQ(surface().label("LblDARE").ForeColor(), 255U);
@@ -192,11 +192,11 @@ TEST_P(JournalLine, WithoutAnAmountTheColumnIsEmptyUntilTheNextSide) {
   EXPECT_THAT(columns(), ElementsAre("", "€ 0,00"));
   panel->TIPO("A");
   EXPECT_THAT(columns(), ElementsAre("€ 0,00", ""));
-  panel->IMPORTO(money("1500"));
+  panel->IMPORTO(euros("1500"));
   EXPECT_THAT(columns(), ElementsAre("€ 0,00", ""));
   panel->TIPO("A");
   EXPECT_THAT(columns(), ElementsAre("€ 0,00", "€ 1.500,00"));
-  panel->IMPORTO(money("7"));
+  panel->IMPORTO(euros("7"));
   EXPECT_THAT(columns(), ElementsAre("€ 0,00", "€ 1.500,00"));
   panel->TIPO("D");
   EXPECT_THAT(columns(), ElementsAre("€ 7,00", "€ 0,00"));
@@ -208,7 +208,7 @@ TEST_P(JournalLine, TheColumnRoundsAsThePatternDoes) {
                                       {"-0,004", "€ 0,00"},
                                       {"922337203685477,5807", "€ 922.337.203.685.477,58"},
                                       {"-922337203685477,5808", "-€ 922.337.203.685.477,58"}}) {
-    panel->IMPORTO(money(amount));
+    panel->IMPORTO(euros(amount));
     panel->TIPO("D");
     EXPECT_THAT(columns(), ElementsAre(shown, "€ 0,00")) << amount;
   }
@@ -224,7 +224,7 @@ TEST_P(JournalLine, AnAmountThatIsNoNumberPassesThrough) {
 
 TEST_P(JournalLine, TheAmountsAreThoseOfThePlatformsLocale) {
   setLocale({.decimalSign = '.', .groupingSign = ','});
-  panel->IMPORTO(money("1500,5"));
+  panel->IMPORTO(euros("1500,5"));
   EXPECT_EQ(caption("LblIMPORTO"), "1500.5");
   panel->TIPO("D");
   EXPECT_THAT(columns(), ElementsAre("€ 1,500.50", "€ 0.00"));
@@ -240,7 +240,7 @@ TEST_P(JournalLine, AllButTheFlagIsWrittenWhateverTheLabelsShow) {
     panel->NDOC("417");
     panel->DESC_1("UNO");
     panel->DESC_2("DUE");
-    panel->IMPORTO(money("1500"));
+    panel->IMPORTO(euros("1500"));
     panel->TIPO("D");
   };
   const Notes labels{"LblRIF.Caption 12",          "LblDATA_RIF.Caption 05/03/2026", "LblDOC.Caption 417",
@@ -253,7 +253,7 @@ TEST_P(JournalLine, AllButTheFlagIsWrittenWhateverTheLabelsShow) {
 }
 
 TEST_P(JournalLine, TheDebitColumnIsWrittenFirstOnEitherSide) {
-  EXPECT_THAT(writesOf([this] { panel->TIPO("A"); }, [this] { panel->IMPORTO(money("1500")); }),
+  EXPECT_THAT(writesOf([this] { panel->TIPO("A"); }, [this] { panel->IMPORTO(euros("1500")); }),
               ElementsAre("LblDARE.Caption € 0,00", "LblAVERE.Caption € 1.500,00"));
 }
 
@@ -334,8 +334,8 @@ TEST_P(JournalLine, IsReachedByNameInAnyCase) {
 
 TEST_P(JournalLine, TwoOfThemKeepTheirOwnValues) {
   const auto other = another("altra");
-  panel->IMPORTO(money("1"));
-  other->IMPORTO(money("2"));
+  panel->IMPORTO(euros("1"));
+  other->IMPORTO(euros("2"));
   panel->TIPO("D");
   other->TIPO("D");
   EXPECT_EQ(caption("LblDARE"), "€ 1,00");

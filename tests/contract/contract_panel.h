@@ -80,6 +80,7 @@ class ContractPanel : public testing::TestWithParam<PlatformMaker>, protected Wa
  public:
   ContractPanel() { under_->watch(this); }
   ~ContractPanel() override { under_->watch(nullptr); }
+  void TearDown() override { under_->expectShown(); }
 
   PlatformUnderTest& under() { return *under_; }
   toolkit::Platform& platform() { return under_->platform(); }

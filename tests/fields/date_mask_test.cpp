@@ -37,13 +37,13 @@ std::string drawn(const DateEntry& entry) {
   return text;
 }
 
-struct Row {
+struct Editing {
   std::string before;
   std::string keys;  ///< characters, "<" for Backspace, "x" for Delete, "l", "r", "h" and "e" for the ways of the caret
   std::string after;
 };
 
-void PrintTo(const Row& row, std::ostream* out) { *out << row.before << " " << row.keys; }
+void PrintTo(const Editing& row, std::ostream* out) { *out << row.before << " " << row.keys; }
 
 /// Whether each key was taken.
 bool play(DateEntry& entry, std::string_view keys) {
@@ -75,7 +75,7 @@ bool play(DateEntry& entry, std::string_view keys) {
   return taken;
 }
 
-class DateMaskKeys : public testing::TestWithParam<Row> {};
+class DateMaskKeys : public testing::TestWithParam<Editing> {};
 
 TEST_P(DateMaskKeys, AreTaken) {
   DateEntry edited = entry(GetParam().before);
@@ -84,60 +84,60 @@ TEST_P(DateMaskKeys, AreTaken) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Digits, DateMaskKeys,
-                         testing::Values(Row{"|##/##/####", "1", "1|#/##/####"},         //
-                                         Row{"|##/##/####", "15", "15/|##/####"},        //
-                                         Row{"|##/##/####", "15112026", "15/11/2026|"},  //
-                                         Row{"15|/##/####", "1", "15/1|#/####"},         //
-                                         Row{"15/11|/2026", "7", "15/11/7|026"},         //
-                                         Row{"|15/11/2026", "3", "3|5/11/2026"},         //
-                                         Row{"15/11/20|26", "3", "15/11/203|6"},         //
-                                         Row{"[15/11/2026]", "3", "3|#/##/####"},        //
-                                         Row{"15/[11]/2026", "3", "15/3|#/2026"},        //
-                                         Row{"1[5/1]1/2026", "3", "13/|#1/2026"},        //
-                                         Row{"15[/11/20]26", "3", "15/3|#/##26"},        //
-                                         Row{"##/##|/####", "99", "##/##/99|##"}));
+                         testing::Values(Editing{"|##/##/####", "1", "1|#/##/####"},         //
+                                         Editing{"|##/##/####", "15", "15/|##/####"},        //
+                                         Editing{"|##/##/####", "15112026", "15/11/2026|"},  //
+                                         Editing{"15|/##/####", "1", "15/1|#/####"},         //
+                                         Editing{"15/11|/2026", "7", "15/11/7|026"},         //
+                                         Editing{"|15/11/2026", "3", "3|5/11/2026"},         //
+                                         Editing{"15/11/20|26", "3", "15/11/203|6"},         //
+                                         Editing{"[15/11/2026]", "3", "3|#/##/####"},        //
+                                         Editing{"15/[11]/2026", "3", "15/3|#/2026"},        //
+                                         Editing{"1[5/1]1/2026", "3", "13/|#1/2026"},        //
+                                         Editing{"15[/11/20]26", "3", "15/3|#/##26"},        //
+                                         Editing{"##/##|/####", "99", "##/##/99|##"}));
 INSTANTIATE_TEST_SUITE_P(Separators, DateMaskKeys,
-                         testing::Values(Row{"|##/##/####", "5/3/2026", "05/03/2026|"},    //
-                                         Row{"|##/##/####", "5.3-26", "05/03/26|##"},      //
-                                         Row{"|##/##/####", "5,3,26", "05/03/26|##"},      //
-                                         Row{"|##/##/####", "15/11/2026", "15/11/2026|"},  //
-                                         Row{"1|5/11/2026", "/", "15/|11/2026"},           //
-                                         Row{"15|/11/2026", "/", "15/|11/2026"},           //
-                                         Row{"15/1|1/2026", "/", "15/11/|2026"},           //
-                                         Row{"#7|/##/####", "7", "#7/7|#/####"}));
+                         testing::Values(Editing{"|##/##/####", "5/3/2026", "05/03/2026|"},    //
+                                         Editing{"|##/##/####", "5.3-26", "05/03/26|##"},      //
+                                         Editing{"|##/##/####", "5,3,26", "05/03/26|##"},      //
+                                         Editing{"|##/##/####", "15/11/2026", "15/11/2026|"},  //
+                                         Editing{"1|5/11/2026", "/", "15/|11/2026"},           //
+                                         Editing{"15|/11/2026", "/", "15/|11/2026"},           //
+                                         Editing{"15/1|1/2026", "/", "15/11/|2026"},           //
+                                         Editing{"#7|/##/####", "7", "#7/7|#/####"}));
 INSTANTIATE_TEST_SUITE_P(Deleting, DateMaskKeys,
-                         testing::Values(Row{"15/11/2026|", "<", "15/11/202|#"},   //
-                                         Row{"15/11/|2026", "<", "15/1|#/2026"},   //
-                                         Row{"15/11|/2026", "<", "15/1|#/2026"},   //
-                                         Row{"15/|11/2026", "<<", "|##/11/2026"},  //
-                                         Row{"|15/11/2026", "<", "|15/11/2026"},   //
-                                         Row{"1|#/##/####", "<<", "|##/##/####"},  //
-                                         Row{"[15/11/2026]", "<", "|##/##/####"},  //
-                                         Row{"1[5/1]1/2026", "<", "1|#/#1/2026"},  //
-                                         Row{"|15/11/2026", "x", "|#5/11/2026"},   //
-                                         Row{"15|/11/2026", "x", "15/|#1/2026"},   //
-                                         Row{"15/11/2026|", "x", "15/11/2026|"},   //
-                                         Row{"15/11/202|6", "x", "15/11/202|#"},   //
-                                         Row{"15/1[1/20]26", "x", "15/1|#/##26"},  //
-                                         Row{"15[/]11/2026", "x", "15|/11/2026"}));
+                         testing::Values(Editing{"15/11/2026|", "<", "15/11/202|#"},   //
+                                         Editing{"15/11/|2026", "<", "15/1|#/2026"},   //
+                                         Editing{"15/11|/2026", "<", "15/1|#/2026"},   //
+                                         Editing{"15/|11/2026", "<<", "|##/11/2026"},  //
+                                         Editing{"|15/11/2026", "<", "|15/11/2026"},   //
+                                         Editing{"1|#/##/####", "<<", "|##/##/####"},  //
+                                         Editing{"[15/11/2026]", "<", "|##/##/####"},  //
+                                         Editing{"1[5/1]1/2026", "<", "1|#/#1/2026"},  //
+                                         Editing{"|15/11/2026", "x", "|#5/11/2026"},   //
+                                         Editing{"15|/11/2026", "x", "15/|#1/2026"},   //
+                                         Editing{"15/11/2026|", "x", "15/11/2026|"},   //
+                                         Editing{"15/11/202|6", "x", "15/11/202|#"},   //
+                                         Editing{"15/1[1/20]26", "x", "15/1|#/##26"},  //
+                                         Editing{"15[/]11/2026", "x", "15|/11/2026"}));
 INSTANTIATE_TEST_SUITE_P(Moving, DateMaskKeys,
-                         testing::Values(Row{"|15/11/2026", "r", "1|5/11/2026"},   //
-                                         Row{"|15/11/2026", "rr", "15/|11/2026"},  //
-                                         Row{"15|/11/2026", "r", "15/|11/2026"},   //
-                                         Row{"15/|11/2026", "l", "1|5/11/2026"},   //
-                                         Row{"15/11/|2026", "ll", "15/|11/2026"},  //
-                                         Row{"|15/11/2026", "l", "|15/11/2026"},   //
-                                         Row{"15/11/2026|", "r", "15/11/2026|"},   //
-                                         Row{"15/[11]/2026", "l", "15/|11/2026"},  //
-                                         Row{"15/1[1/20]26", "r", "15/11/20|26"},  //
-                                         Row{"15/[11]/2026", "h", "|15/11/2026"},  //
-                                         Row{"|15/11/2026", "e", "15/11/2026|"},   //
-                                         Row{"|15/##/####", "e", "15/|##/####"},   //
-                                         Row{"|15/1#/####", "e", "15/1|#/####"},   //
-                                         Row{"##/##|/####", "e", "|##/##/####"},   //
-                                         Row{"[##/##/####]", "e", "|##/##/####"}));
+                         testing::Values(Editing{"|15/11/2026", "r", "1|5/11/2026"},   //
+                                         Editing{"|15/11/2026", "rr", "15/|11/2026"},  //
+                                         Editing{"15|/11/2026", "r", "15/|11/2026"},   //
+                                         Editing{"15/|11/2026", "l", "1|5/11/2026"},   //
+                                         Editing{"15/11/|2026", "ll", "15/|11/2026"},  //
+                                         Editing{"|15/11/2026", "l", "|15/11/2026"},   //
+                                         Editing{"15/11/2026|", "r", "15/11/2026|"},   //
+                                         Editing{"15/[11]/2026", "l", "15/|11/2026"},  //
+                                         Editing{"15/1[1/20]26", "r", "15/11/20|26"},  //
+                                         Editing{"15/[11]/2026", "h", "|15/11/2026"},  //
+                                         Editing{"|15/11/2026", "e", "15/11/2026|"},   //
+                                         Editing{"|15/##/####", "e", "15/|##/####"},   //
+                                         Editing{"|15/1#/####", "e", "15/1|#/####"},   //
+                                         Editing{"##/##|/####", "e", "|##/##/####"},   //
+                                         Editing{"[##/##/####]", "e", "|##/##/####"}));
 
-class RefusedDateKeys : public testing::TestWithParam<Row> {};
+class RefusedDateKeys : public testing::TestWithParam<Editing> {};
 
 TEST_P(RefusedDateKeys, ChangeNothing) {
   DateEntry edited = entry(GetParam().before);
@@ -146,24 +146,24 @@ TEST_P(RefusedDateKeys, ChangeNothing) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, RefusedDateKeys,
-                         testing::Values(Row{"15/11/2026|", "7", ""}, Row{"|##/##/####", "a", ""},
-                                         Row{"|##/##/####", "/", ""}, Row{"1#/|##/####", "/", ""},
-                                         Row{"15/#|1/2026", "/", ""}, Row{"15/11/20|26", "/", ""},
-                                         Row{"[15/11/2026]", "/", ""}, Row{"[15/11/2026]", "#", ""},
-                                         Row{"[15/11/2026]", " ", ""}));
+                         testing::Values(Editing{"15/11/2026|", "7", ""}, Editing{"|##/##/####", "a", ""},
+                                         Editing{"|##/##/####", "/", ""}, Editing{"1#/|##/####", "/", ""},
+                                         Editing{"15/#|1/2026", "/", ""}, Editing{"15/11/20|26", "/", ""},
+                                         Editing{"[15/11/2026]", "/", ""}, Editing{"[15/11/2026]", "#", ""},
+                                         Editing{"[15/11/2026]", " ", ""}));
 
 TEST(DateMask, TellsWhetherADigitWent) {
-  struct Case {
+  struct Refusal {
     std::string before;
     bool went;
   };
-  for (const Case& c :
-       {Case{"1|5/11/2026", true}, {"#|5/11/2026", false}, {"|15/11/2026", false}, {"[##/]11/2026", false}}) {
+  for (const Refusal& c :
+       {Refusal{"1|5/11/2026", true}, {"#|5/11/2026", false}, {"|15/11/2026", false}, {"[##/]11/2026", false}}) {
     DateEntry edited = entry(c.before);
     EXPECT_EQ(edited.backspace(), c.went) << c.before;
   }
-  for (const Case& c :
-       {Case{"1|5/11/2026", true}, {"1|#/11/2026", false}, {"15/11/2026|", false}, {"[##/1]1/2026", true}}) {
+  for (const Refusal& c :
+       {Refusal{"1|5/11/2026", true}, {"1|#/11/2026", false}, {"15/11/2026|", false}, {"[##/1]1/2026", true}}) {
     DateEntry edited = entry(c.before);
     EXPECT_EQ(edited.erase(), c.went) << c.before;
   }

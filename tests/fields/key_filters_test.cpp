@@ -19,7 +19,7 @@ using Gest_SCHEDE::FiltroTesto;
 
 constexpr std::int16_t kRefused = 0;
 
-struct Case {
+struct FilteredKey {
   fields::Filter filter;
   std::int16_t limit;
   std::string text;
@@ -30,7 +30,7 @@ struct Case {
 };
 
 // A refused key beeps and becomes 0; nothing else beeps.
-const std::vector<Case> kCases{
+const std::vector<FilteredKey> kCases{
     // Numbers with a sign.
     {FiltroImporto, 2, "", 0, 0, '7', '7'},
     {FiltroImporto, 2, "", 0, 0, '-', '-'},
@@ -148,7 +148,7 @@ class KeyFilters : public FieldBench {};
 QVN_ON_EVERY_PLATFORM(KeyFilters);
 
 TEST_P(KeyFilters, TakeRefuseAndChangeKeys) {
-  for (const Case& c : kCases) {
+  for (const FilteredKey& c : kCases) {
     SCOPED_TRACE(nameOf(c.filter) + " " + std::to_string(c.limit) + " on \"" + c.text + "\" [" +
                  std::to_string(c.start) + "," + std::to_string(c.length) + "] key " + std::to_string(c.key));
     toolkit::TextBox& box = field("A");

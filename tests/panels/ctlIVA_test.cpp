@@ -36,7 +36,7 @@ class VatCodePanel : public OnPlatform {
 };
 QVN_ON_EVERY_PLATFORM(VatCodePanel);
 
-struct LaidOut {
+struct Drawn {
   std::string name;
   WidgetKind kind;
   std::string caption;
@@ -44,7 +44,7 @@ struct LaidOut {
 };
 
 TEST_P(VatCodePanel, IsLaidOutInTabOrder) {
-  const std::vector<LaidOut> rows{
+  const std::vector<Drawn> rows{
       {"Frame1", WidgetKind::Frame, "", {75, 75, 7890, 765}},
       {"lblCodice", WidgetKind::Label, "Codice:", {75, 300, 615, 315}},
       {"TxtCodice", WidgetKind::TextBox, "", {750, 300, 465, 315}},

@@ -7,7 +7,7 @@ namespace {
 class CommissionLastDigit : public CommissionPanel {};
 QVN_ON_EVERY_PLATFORM(CommissionLastDigit);
 
-constexpr std::string_view kHuge = "900000000000000";
+constexpr std::string_view kLarge = "900000000000000";
 
 TEST_P(CommissionLastDigit, AnAmountDividesByAHundredBeforeItMultiplies) {
   everybody();
@@ -120,7 +120,7 @@ TEST_P(CommissionLastDigit, AnAmountBaseIsReadAsMoney) {
   panel->CALC_PROD(2);
   box("TxtPN_UFF").Text("900000000000000,0001");  // a digit more than a double's fifteen
   panel->P_PN_PROD(percent("100"));
-  EXPECT_EQ(panel->PN_PROD(), money(kHuge));
+  EXPECT_EQ(panel->PN_PROD(), money(kLarge));
 }
 
 }  // namespace

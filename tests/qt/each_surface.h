@@ -63,6 +63,8 @@ class EachSurface : public testing::TestWithParam<std::string> {
     return seen;
   }
 
+  FakeDriver& driver() { return driver_; }
+
   qt::OffscreenPlatform platform;
   RecordingContainer container;
 

@@ -1,4 +1,6 @@
 // A field under a person's hands.
+#include <QAccessible>
+#include <QAccessibleEditableTextInterface>
 #include <QClipboard>
 #include <QImage>
 #include <QInputMethodEvent>
@@ -90,6 +92,15 @@ TEST_F(QtField, APasteStopsAtTheFirstCharacterThatIsRefused) {
   expectAgreement();
 }
 
+TEST_F(QtField, CopiesWhatIsSelected) {
+  write("12345");
+  select(1, 3);
+  QApplication::clipboard()->clear();
+  press(Qt::Key_C, "\x03", Qt::ControlModifier);
+  EXPECT_EQ(QApplication::clipboard()->text(), "234");
+  EXPECT_EQ(box().Text(), "12345");
+}
+
 TEST_F(QtField, CutsAndUndoes) {
   write("12345");
   select(1, 3);
@@ -132,6 +143,14 @@ TEST_F(QtField, AnInputMethodReplacesWhatStandsBeforeTheCaret) {
   QApplication::sendEvent(&line(), &around);
   EXPECT_EQ(box().Text(), "cffè");
   expectAgreement();
+}
+
+TEST_F(QtField, WhatIsComposedReplacesWhatIsSelected) {
+  write("12345");
+  select(1, 3);
+  QInputMethodEvent composing(QStringLiteral("`"), {});
+  QApplication::sendEvent(&line(), &composing);
+  EXPECT_EQ(box().Text(), "15");
 }
 
 TEST_F(QtField, WhatIsComposedIsSeenBeforeItIsTyped) {
@@ -192,6 +211,18 @@ TEST_F(QtField, WhatComesPastTheHandsIsPutBack) {
   write("12");
   line().insert("34");
   QApplication::processEvents();
+  EXPECT_EQ(box().Text(), "12");
+  expectAgreement();
+}
+
+TEST_F(QtField, WhatAnAssistiveProgramWritesIsPutBack) {
+  write("12");
+  QAccessibleInterface& spoken = *QAccessible::queryAccessibleInterface(&line());
+  spoken.setText(QAccessible::Value, QStringLiteral("34"));
+  EXPECT_EQ(box().Text(), "12");
+  expectAgreement();
+  ASSERT_NE(spoken.editableTextInterface(), nullptr);
+  spoken.editableTextInterface()->insertText(0, QStringLiteral("9"));
   EXPECT_EQ(box().Text(), "12");
   expectAgreement();
 }

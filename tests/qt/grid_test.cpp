@@ -1,7 +1,9 @@
 // A grid before a person.
+#include <QKeyEvent>
 #include <QTableView>
 
 #include "qvn/toolkit/data_grid.h"
+#include "tests/qt/agreement.h"
 #include "tests/qt/each_surface.h"
 
 namespace qvn::test {
@@ -29,6 +31,24 @@ TEST_P(QtGrid, ShowsAColumnThatIsWrittenAnew) {
   platform.settle();
   EXPECT_EQ(table().model()->headerData(0, Qt::Horizontal).toString(), "Altro");
   EXPECT_NE(table().columnWidth(0), 123);
+}
+
+TEST_P(QtGrid, IsWalkedByTheArrowKeysAndShowsNumbersToTheRight) {
+  driver().answers["select"] = {.columns = {"COD_COMP", "DESC_COMPAGNIA", "PL", "PA"},
+                                .rows = {{std::string("GEN"), std::string("Generali"), 1.5, 2.5},
+                                         {std::string("ALL"), std::string("Altra"), 3.5, 4.5}}};
+  toolkit::DataControl& data = grid().DataSource();
+  data.ConnectionString("fake:office");
+  data.RecordSource("select");
+  data.Refresh();
+  platform.settle();
+  table().setCurrentIndex(table().model()->index(0, 0));
+  for (const int key : {Qt::Key_Down, Qt::Key_Right}) {
+    QKeyEvent arrow(QEvent::KeyPress, key, Qt::NoModifier);
+    QApplication::sendEvent(&table(), &arrow);
+  }
+  EXPECT_EQ(table().currentIndex(), table().model()->index(1, 1));
+  EXPECT_THAT(disagreements(platform, surface()), testing::IsEmpty());
 }
 
 TEST_P(QtGrid, ForgetsItsRowsOnlyWhenItsSourceIsAskedAgain) {

@@ -39,6 +39,7 @@ TEST(KeyEvents, ComposedAndThirdLevelCharactersAreTyped) {
 TEST(KeyEvents, ShortcutsAreNoKeys) {
   EXPECT_EQ(typed(Qt::Key_S, "\x13", Qt::ControlModifier), "");
   EXPECT_EQ(typed(Qt::Key_F, "f", Qt::AltModifier), "");
+  EXPECT_EQ(typed(Qt::Key_Period, ".", Qt::KeypadModifier | Qt::ControlModifier), "");
   EXPECT_TRUE(qt::keysOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Delete, Qt::ShiftModifier)).empty());
   EXPECT_TRUE(qt::keysOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Shift, Qt::ShiftModifier)).empty());
 }
@@ -51,6 +52,7 @@ TEST(KeyEvents, NamedKeys) {
   EXPECT_EQ(named(Qt::Key_Tab, Qt::ShiftModifier), memory::KeyName::ShiftTab);
   EXPECT_EQ(named(Qt::Key_Backspace, Qt::ShiftModifier), memory::KeyName::Backspace);
   EXPECT_EQ(named(Qt::Key_Escape), memory::KeyName::Escape);
+  EXPECT_EQ(named(Qt::Key_Delete, Qt::KeypadModifier), memory::KeyName::Delete);
 }
 
 }  // namespace

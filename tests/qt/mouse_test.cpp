@@ -179,6 +179,12 @@ class QtClosedList : public OnScreen {
   std::vector<std::string> heard;
 };
 
+TEST_F(QtClosedList, IsOpenedByAltWithAnArrowToo) {
+  press(Qt::Key_Down, {}, Qt::AltModifier);
+  EXPECT_TRUE(dynamic_cast<QComboBox&>(shown("List")).view()->isVisible());
+  EXPECT_THAT(heard, testing::IsEmpty());
+}
+
 TEST_F(QtClosedList, IsPickedFromItsPopupByKeys) {
   QAbstractItemView& rows = opened();
   EXPECT_TRUE(rows.isVisible());

@@ -1,6 +1,7 @@
 // A panel in a host's window.
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QScreen>
 
 #include "tests/qt/on_screen.h"
 
@@ -14,6 +15,13 @@ TEST_F(QtPanel, IsAsLargeAsLaidOut) {
   EXPECT_EQ(widget.width(), 7200 * widget.logicalDpiX() / 1440);
   EXPECT_EQ(widget.height(), 3600 * widget.logicalDpiY() / 1440);
   expectAgreement();
+}
+
+TEST_F(QtPanel, IsToldTheSizeOfThePrimaryScreen) {
+  const QScreen& primary = *QGuiApplication::primaryScreen();
+  const toolkit::ScreenSize size = platform.screen();
+  EXPECT_NEAR(size.width, primary.size().width() * 1440 / primary.logicalDotsPerInchX(), 1);
+  EXPECT_NEAR(size.height, primary.size().height() * 1440 / primary.logicalDotsPerInchY(), 1);
 }
 
 TEST_F(QtPanel, ShowsWhatTheProgramWrites) {
@@ -59,6 +67,7 @@ TEST_F(QtPanel, TabLeavesThePanelAtItsLastFieldAndShiftTabComesBackToIt) {
   std::vector<std::string> heard;
   box("Twin2").LostFocus = [&] { heard.emplace_back("lost"); };
   box("Twin2").GotFocus = [&] { heard.emplace_back("got"); };
+  box("Twin2").Text("abc");
   focus(box("Twin1"));
   press(Qt::Key_Tab, "\t");
   EXPECT_TRUE(box("Twin2").hasFocus());
@@ -67,6 +76,7 @@ TEST_F(QtPanel, TabLeavesThePanelAtItsLastFieldAndShiftTabComesBackToIt) {
   EXPECT_EQ(platform.focused(), nullptr);
   press(Qt::Key_Backtab, {}, Qt::ShiftModifier);
   EXPECT_TRUE(box("Twin2").hasFocus());
+  EXPECT_EQ(box("Twin2").SelLength(), 0);
   EXPECT_THAT(heard, ElementsAre("got", "lost", "got"));
   expectAgreement();
 }
@@ -134,6 +144,14 @@ TEST_F(QtPanel, TheMouseMovesTheFocusAndPushes) {
   press(Qt::Key_Space, " ");
   EXPECT_EQ(check().Value(), 0);
   expectAgreement();
+}
+
+TEST_F(QtPanel, TheSpaceBarPushesAButton) {
+  int pushed = 0;
+  panel->button("Button").Click = [&] { ++pushed; };
+  focus(panel->button("Button"));
+  press(Qt::Key_Space, " ");
+  EXPECT_EQ(pushed, 1);
 }
 
 TEST_F(QtPanel, AListIsChosenFromByKeysAndByItsPopup) {

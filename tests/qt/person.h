@@ -26,8 +26,17 @@ inline void write(const QString& text) {
   for (const QChar c : text) press(c.toUpper().unicode(), c);
 }
 
+/// Gives the focus to what is clicked, or to the first around it that takes it, as Qt does before it tells of the
+/// click.
+inline void focusByMouse(QWidget& clicked) {
+  for (QWidget* widget = &clicked; widget != nullptr; widget = widget->isWindow() ? nullptr : widget->parentWidget()) {
+    if ((widget->focusPolicy() & Qt::ClickFocus) == 0 || !widget->isEnabled()) continue;
+    return widget->setFocus(Qt::MouseFocusReason);
+  }
+}
+
 inline void clickAt(QWidget& widget, QPointF where, Qt::MouseButton button = Qt::LeftButton) {
-  if (button == Qt::LeftButton && (widget.focusPolicy() & Qt::ClickFocus) != 0) widget.setFocus(Qt::MouseFocusReason);
+  if (button == Qt::LeftButton) focusByMouse(widget);
   const QPointF global = widget.mapToGlobal(where);
   QMouseEvent down(QEvent::MouseButtonPress, where, global, button, button, Qt::NoModifier);
   QApplication::sendEvent(&widget, &down);
@@ -37,7 +46,7 @@ inline void clickAt(QWidget& widget, QPointF where, Qt::MouseButton button = Qt:
 
 /// Presses the button at one place, moves the mouse to another, and lets go.
 inline void drag(QWidget& widget, QPointF from, QPointF to) {
-  if ((widget.focusPolicy() & Qt::ClickFocus) != 0) widget.setFocus(Qt::MouseFocusReason);
+  focusByMouse(widget);
   QMouseEvent down(QEvent::MouseButtonPress, from, widget.mapToGlobal(from), Qt::LeftButton, Qt::LeftButton,
                    Qt::NoModifier);
   QApplication::sendEvent(&widget, &down);

@@ -13,6 +13,7 @@
 #include "platforms/qt/colours.h"
 #include "platforms/qt/twips.h"
 #include "qvn/fields/Gest_SCHEDE.h"
+#include "tests/qt/agreement.h"
 #include "tests/qt/each_surface.h"
 
 namespace qvn::test {
@@ -229,6 +230,7 @@ TEST(SightScale, IsThatOfTheScreen) {
   const qt::OffscreenPlatform platform;
   const QWidget widget;
   EXPECT_EQ(widget.devicePixelRatioF(), qEnvironmentVariable("QT_SCALE_FACTOR", "1").toDouble());
+  EXPECT_EQ(widget.logicalDpiX(), qEnvironmentVariable("QT_FONT_DPI", "96").toInt());
 }
 
 /// The texts of a widget's kind, each with what it stands on.
@@ -252,6 +254,9 @@ TEST_P(Sight, EveryTextCanBeReadInEveryStateOnALightAndOnADarkDesktop) {
   const QPalette light = QApplication::palette();
   for (const QPalette& desktop : {light, darkDesktop()}) {
     QApplication::setPalette(desktop);
+    QApplication::processEvents();
+    platform.settle();
+    EXPECT_THAT(disagreements(platform, surface()), testing::IsEmpty());
     for (const std::uint32_t back : {toolkit::kWhite, std::uint32_t{0xFFFF00}, std::uint32_t{0x00FFFF}}) {
       for (toolkit::Widget* widget : surface().widgets()) {
         const bool coloured = textsOf(widget->Kind()).front().first == QPalette::Text;

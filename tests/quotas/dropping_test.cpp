@@ -114,15 +114,15 @@ TEST_P(QuotaDropping, WhileTheHandsTickAndEnterADate) {
 }
 
 TEST_P(QuotaDropping, WhileItAsksForTheDatabase) {
-  struct Code {
+  struct TypedCode {
     std::string className;
     std::string property;
   };
-  const std::vector<Code> codes{{"ctlQ_POLIZZE", "COD_COMP"},
-                                {"ctlQ_POLIZZE", "COD_PROD"},
-                                {"ctlQ_POLIZZE", "COD_PROD_ALT"},
-                                {"ctlQ_SINISTRI", "COD_COMP"}};
-  for (const Code& code : codes) {
+  const std::vector<TypedCode> codes{{"ctlQ_POLIZZE", "COD_COMP"},
+                                     {"ctlQ_POLIZZE", "COD_PROD"},
+                                     {"ctlQ_POLIZZE", "COD_PROD_ALT"},
+                                     {"ctlQ_SINISTRI", "COD_COMP"}};
+  for (const TypedCode& code : codes) {
     const std::string& property = code.property;
     SCOPED_TRACE(code.className + "." + property);
     for (const bool answered : {false, true}) {

@@ -4,6 +4,7 @@
 #include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sstream>
 #include <string>
 
 #include "tests/fake_database.h"
@@ -135,6 +136,12 @@ TEST(ToolkitByName, IsOneOfThoseBuiltIn) {
   EXPECT_EQ(makeToolkit("Memory"), nullptr);
   EXPECT_EQ(makeToolkit(""), nullptr);
   EXPECT_THAT(toolkitNames(), HasSubstr("memory"));
+  std::istringstream names(toolkitNames());
+  for (std::string name; std::getline(names >> std::ws, name, ',');) {
+    const std::unique_ptr<Toolkit> toolkit = makeToolkit(name);
+    ASSERT_NE(toolkit, nullptr) << name;
+    EXPECT_EQ(toolkit->platform().name(), name);
+  }
 }
 
 }  // namespace

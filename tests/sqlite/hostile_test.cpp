@@ -10,13 +10,13 @@ namespace {
 
 enum class Outcome { Fails, GivesRows };
 
-struct Case {
+struct Attack {
   const char* name;
   std::string sql;
   Outcome outcome = Outcome::Fails;
 };
 
-void PrintTo(const Case& one, std::ostream* out) { *out << one.sql.substr(0, 200); }
+void PrintTo(const Attack& one, std::ostream* out) { *out << one.sql.substr(0, 200); }
 
 /// The statement of a look-up with a key that was not cleaned.
 std::string lookup(const std::string& key) {
@@ -25,7 +25,7 @@ std::string lookup(const std::string& key) {
 
 std::string vat(const std::string& key) { return "Select * From TIPI_IVA Where COD_IVA = " + key; }
 
-std::string repeated(const std::string& text, int times) {
+std::string manyTimes(const std::string& text, int times) {
   std::string all;
   for (int i = 0; i < times; ++i) all += text;
   return all;
@@ -33,7 +33,7 @@ std::string repeated(const std::string& text, int times) {
 
 const std::string kEndless = "With Recursive C(N) As (Select 1 Union All Select N + 1 From C) ";
 
-const Case kCases[]{
+const Attack kCases[]{
     // Keys that leave their quotes.
     {"KeyDropsTable", lookup("x'; DROP TABLE COMPAGNIE; --")},
     {"KeyDeletes", lookup("x'; DELETE FROM COMPAGNIE WHERE 'a' = 'a")},
@@ -146,16 +146,16 @@ const Case kCases[]{
      "T E, T F, T G, T H, T I, T J"},
     {"LongTextMade", "Select hex(zeroblob(1000000000))"},
     {"WidePrintf", "Select printf('%1000000000d', 1)", Outcome::GivesRows},
-    {"GiantPattern", lookup("x' Or DESC_COMPAGNIA Like '" + repeated("%a", 20'000))},
-    {"ManyRuns", "Select hex(zeroblob(30000)) Like '" + repeated("%0", 400) + "1'", Outcome::GivesRows},
-    {"GlobOfManyRuns", "Select hex(zeroblob(30000)) Glob '" + repeated("*0", 400) + "1'"},
-    {"DeepExpression", "Select " + repeated("(", 10'000) + "1" + repeated(")", 10'000)},
-    {"DeepSum", "Select 1" + repeated("+1", 5'000)},
-    {"ManyUnions", "Select 1" + repeated(" Union All Select 1", 1'000)},
-    {"ManyColumns", "Select 1" + repeated(",1", 5'000)},
+    {"GiantPattern", lookup("x' Or DESC_COMPAGNIA Like '" + manyTimes("%a", 20'000))},
+    {"ManyRuns", "Select hex(zeroblob(30000)) Like '" + manyTimes("%0", 400) + "1'", Outcome::GivesRows},
+    {"GlobOfManyRuns", "Select hex(zeroblob(30000)) Glob '" + manyTimes("*0", 400) + "1'"},
+    {"DeepExpression", "Select " + manyTimes("(", 10'000) + "1" + manyTimes(")", 10'000)},
+    {"DeepSum", "Select 1" + manyTimes("+1", 5'000)},
+    {"ManyUnions", "Select 1" + manyTimes(" Union All Select 1", 1'000)},
+    {"ManyColumns", "Select 1" + manyTimes(",1", 5'000)},
     {"HugeText", lookup(std::string(1'000'000, 'x'))},
     {"LongKey", lookup(std::string(60'000, 'x')), Outcome::GivesRows},
-    {"ManyKeys", vat("1" + repeated(" Or COD_IVA = 1", 150)), Outcome::GivesRows},
+    {"ManyKeys", vat("1" + manyTimes(" Or COD_IVA = 1", 150)), Outcome::GivesRows},
     // Texts that are none.
     {"Empty", ""},
     {"Blank", " \n\t"},
@@ -166,7 +166,7 @@ const Case kCases[]{
     {"Nonsense", "DROP DROP DROP"},
 };
 
-class Hostile : public testing::TestWithParam<Case> {};
+class Hostile : public testing::TestWithParam<Attack> {};
 
 TEST_P(Hostile, LeavesTheFileAndItsFolderAsTheyWere) {
   const ScratchFolder folder;

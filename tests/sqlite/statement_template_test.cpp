@@ -10,7 +10,7 @@
 namespace qvn::sqlite {
 namespace {
 
-struct Case {
+struct Parting {
   std::string_view sql;
   std::string_view text;
   std::vector<std::string_view> literals;
@@ -23,7 +23,7 @@ std::vector<std::string_view> sourcesOf(const StatementTemplate& statement) {
 }
 
 TEST(StatementTemplate, TakesOutWhatIsComparedWith) {
-  const Case cases[]{
+  const Parting cases[]{
       {"Select A From T Where B = 'X'", "Select A From T Where B = ?", {"'X'"}},
       {"Select A From T Where B='X' AND C=12", "Select A From T Where B=? AND C=?", {"'X'", "12"}},
       {"Select A From T Where B<>1 And C<2 And D>3 And E<=4 And F>=5",

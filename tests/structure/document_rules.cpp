@@ -48,11 +48,13 @@ std::string wrongWithLink(const std::string& link, const Source& document, const
   return hasHeading(text, link.substr(hash + 1)) ? "" : "leads to no heading";
 }
 
-/// What is wrong with a block of C++ under a comment that names its file, empty if nothing is.
-std::string wrongWithSample(const std::string& comment, const std::string& code, const std::filesystem::path& root) {
+/// What is wrong with a block of code under a comment, empty if nothing is.
+std::string wrongWithCode(const std::string& comment, const std::string& code, const std::filesystem::path& root) {
+  static const std::regex sample(R"(^<!-- sample [a-z_]+/\S+ -->$)");
   static const std::regex named(R"(^<!-- (\S+) -->$)");
+  if (std::regex_match(comment, sample)) return {};
   std::smatch found;
-  if (!std::regex_match(comment, found, named)) return "names no file that it is taken from";
+  if (!std::regex_match(comment, found, named)) return "is no sample and names no file that it is taken from";
   const auto file = root / found[1].str();
   if (!std::filesystem::is_regular_file(file)) return "names " + found[1].str() + ", which is not there";
   return textOf(file).find(code) == std::string::npos ? "does not stand like this in " + found[1].str() : "";
@@ -73,7 +75,7 @@ std::vector<std::string> wrongInDocument(const Source& document, const std::file
   for (std::size_t number = 1; std::getline(lines, line); ++number) {
     if (line.starts_with(kFence)) {
       const auto opened = number;
-      const bool isCode = line == "```cpp";
+      const bool isCode = line == "```cpp" || line == "```c";
       std::string code;
       while (std::getline(lines, line) && line != kFence) {
         ++number;
@@ -82,7 +84,7 @@ std::vector<std::string> wrongInDocument(const Source& document, const std::file
       ++number;
       if (line != kFence) complain(opened, "the block does not end");
       if (isCode) {
-        if (const auto what = wrongWithSample(above, code, root); !what.empty()) complain(opened, "the C++ " + what);
+        if (const auto what = wrongWithCode(above, code, root); !what.empty()) complain(opened, "the code " + what);
       }
     }
     for (std::sregex_iterator found(line.begin(), line.end(), link), end; found != end; ++found) {

@@ -1,4 +1,4 @@
-// The documents lead nowhere that is not there and show no C++ that is not compiled; and the check of that finds both.
+// The documents lead nowhere that is not there and show no code that is not compiled; and the check of that finds both.
 #include "tests/structure/document_rules.h"
 
 #include <array>
@@ -32,11 +32,6 @@ TEST(Documents, ofThisProjectAreRight) {
   for (const auto& document : projectDocuments()) EXPECT_THAT(wrongInDocument(document, root()), IsEmpty());
 }
 
-TEST(Documents, showTheHostAsItIsCompiled) {
-  const auto host = textOf(root() / "examples/host/host.cpp");
-  EXPECT_NE(std::string::npos, textOf(root() / "README.md").find("```cpp\n" + host + "```\n"));
-}
-
 TEST(DocumentRules, acceptLinksThatLeadSomewhere) {
   EXPECT_THAT(wrongIn("[a](LICENSE) and [b](docs/) and [c](docs/glossary.md#people)\n"), IsEmpty());
   EXPECT_THAT(wrongIn("[a](https://example.org/gone) [b](mailto:office@example.org)\n"), IsEmpty());
@@ -62,17 +57,23 @@ TEST(DocumentRules, leaveBlocksOfTextAlone) {
   EXPECT_THAT(wrongIn("```text\n[a](GONE.md)\n```\n[b](GONE.md)\n"), ElementsAre("README.md:4: GONE.md leads nowhere"));
 }
 
+TEST(DocumentRules, acceptCodeThatIsASample) {
+  EXPECT_THAT(wrongIn("<!-- sample readme/host.cpp -->\n```cpp\nint main() {}\n```\n"), IsEmpty());
+  EXPECT_THAT(wrongIn("<!-- sample c/host.c -->\n```c\nint main(void) {}\n```\n"), IsEmpty());
+}
+
 TEST(DocumentRules, acceptCodeThatStandsInItsFile) {
   EXPECT_THAT(wrongIn("<!-- LICENSE -->\n```cpp\nMIT License\n```\n"), IsEmpty());
 }
 
-TEST(DocumentRules, refuseCodeThatDoesNot) {
+TEST(DocumentRules, refuseCodeThatIsNeither) {
   EXPECT_THAT(wrongIn("<!-- LICENSE -->\n```cpp\nMIT  License\n```\n"),
-              ElementsAre("README.md:2: the C++ does not stand like this in LICENSE"));
+              ElementsAre("README.md:2: the code does not stand like this in LICENSE"));
   EXPECT_THAT(wrongIn("<!-- GONE.cpp -->\n```cpp\nMIT License\n```\n"),
-              ElementsAre("README.md:2: the C++ names GONE.cpp, which is not there"));
-  EXPECT_THAT(wrongIn("A host:\n```cpp\nint main() {}\n```\n"),
-              ElementsAre("README.md:2: the C++ names no file that it is taken from"));
+              ElementsAre("README.md:2: the code names GONE.cpp, which is not there"));
+  constexpr auto wrong = "README.md:2: the code is no sample and names no file that it is taken from";
+  EXPECT_THAT(wrongIn("A host:\n```cpp\nint main() {}\n```\n"), ElementsAre(wrong));
+  EXPECT_THAT(wrongIn("A host:\n```c\nint main(void) {}\n```\n"), ElementsAre(wrong));
 }
 
 TEST(DocumentRules, refuseABlockWithoutAnEnd) {

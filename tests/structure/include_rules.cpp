@@ -29,10 +29,11 @@ constexpr std::array kRooms{
     Room{"qvn/panels/", "qvn/", true},
     Room{"platforms/memory/", "qvn/ platforms/", true},
     Room{"platforms/", "qvn/ platforms/", false},
+    Room{"component/", "qvn/ platforms/ component/", false},
     Room{"hosts/", "qvn/ platforms/ hosts/", false},
-    Room{"examples/", "qvn/ platforms/ examples/", false},
-    Room{"tests/", "qvn/ platforms/ hosts/ examples/ tests/", false},
-    Room{"bench/", "qvn/ platforms/ hosts/ examples/ tests/ bench/", false},
+    Room{"examples/", "qvn/ platforms/ component/ examples/", false},
+    Room{"tests/", "qvn/ platforms/ component/ hosts/ examples/ tests/", false},
+    Room{"bench/", "qvn/ platforms/ component/ hosts/ examples/ tests/ bench/", false},
     Room{"fuzz/", "qvn/ platforms/ hosts/ examples/ tests/ fuzz/", false},
 };
 
@@ -89,10 +90,14 @@ std::string_view folderIn(std::string_view house, std::string_view path) {
 }
 
 /// A house's folder that another rests on.
-constexpr std::array kFoundations{std::pair<std::string_view, std::string_view>{"platforms/qt/", "platforms/memory/"}};
+using Foundation = std::pair<std::string_view, std::string_view>;
+constexpr std::array kFoundations{Foundation{"platforms/qt/", "platforms/memory/"},
+                                  Foundation{"platforms/designer/", "platforms/qt/"},
+                                  Foundation{"platforms/designer/", "platforms/sqlite/"}};
 
 /// Where Qt may be included.
-constexpr std::string_view kQtRooms = "platforms/qt/ hosts/ufficio/ tests/qt/ tests/ufficio/ bench/";
+constexpr std::string_view kQtRooms =
+    "platforms/qt/ platforms/designer/ hosts/ufficio/ tests/qt/ tests/designer/ tests/ufficio/ bench/";
 
 bool areStrangers(std::string_view a, std::string_view b) {
   for (const auto& [above, foundation] : kFoundations) {

@@ -17,8 +17,9 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 std::vector<Source> projectSources() {
-  constexpr std::array<std::string_view, 7> folders{"qvn", "platforms", "hosts", "examples", "tests", "bench", "fuzz"};
-  constexpr std::array<std::string_view, 2> endings{".h", ".cpp"};
+  constexpr std::array<std::string_view, 8> folders{"qvn",      "platforms", "component", "hosts",
+                                                    "examples", "tests",     "bench",     "fuzz"};
+  constexpr std::array<std::string_view, 3> endings{".h", ".cpp", ".c"};
   return filesBelow(folders, endings);
 }
 
@@ -77,7 +78,10 @@ TEST_P(IncludeRule, isChecked) {
                                  holdingNothing("qvn/panels/quotas/ctlB.h"),
                                  holdingNothing("platforms/operator.h"),
                                  holdingNothing("platforms/memory/screen.h"),
+                                 holdingNothing("platforms/qt/screen.h"),
+                                 holdingNothing("platforms/designer/form.h"),
                                  holdingNothing("platforms/sqlite/driver.h"),
+                                 holdingNothing("component/object.h"),
                                  holdingNothing("hosts/play/session.h"),
                                  holdingNothing("tests/support/rig.h")};
   if (complaint.empty()) {
@@ -99,8 +103,12 @@ constexpr std::array kCases{
     Case{"libraryMayIncludeTheStandardLibrary", "qvn/shared/a.h", "<string_view>", ""},
     Case{"platformMayIncludeItsSystem", "platforms/sqlite/a.cpp", "<sqlite3.h>", ""},
     Case{"qtRestsOnMemory", "platforms/qt/a.cpp", R"("platforms/memory/screen.h")", ""},
+    Case{"designerRestsOnQt", "platforms/designer/a.cpp", R"("platforms/qt/screen.h")", ""},
     Case{"qtMayIncludeQt", "platforms/qt/a.cpp", "<QWidget>", ""},
     Case{"platformMayIncludeTheLibrary", "platforms/memory/a.cpp", R"("qvn/toolkit/widget.h")", ""},
+    Case{"componentMayIncludeAllOfTheLibrary", "component/a.cpp", R"("qvn/panels/master/ctlA.h")", ""},
+    Case{"componentMayIncludePlatforms", "component/a.cpp", R"("platforms/memory/screen.h")", ""},
+    Case{"examplesMayIncludeTheComponent", "examples/c/a.c", R"("component/object.h")", ""},
     Case{"hostMayIncludePanels", "hosts/play/a.cpp", R"("qvn/panels/master/ctlA.h")", ""},
     Case{"blanksAroundTheDirective", "qvn/fields/a.cpp", R"(   "qvn/toolkit/widget.h"   // why)", ""},
 
@@ -118,14 +126,25 @@ constexpr std::array kCases{
          "hosts/play/session.h stands below qvn/lookups/"},
     Case{"libraryIncludesTests", "qvn/shared/a.cpp", R"("tests/support/rig.h")",
          "tests/support/rig.h stands below qvn/shared/"},
+    Case{"libraryIncludesTheComponent", "qvn/panels/a.cpp", R"("component/object.h")",
+         "component/object.h stands below qvn/panels/"},
+    Case{"platformIncludesTheComponent", "platforms/memory/a.cpp", R"("component/object.h")",
+         "component/object.h stands below platforms/memory/"},
+    Case{"hostIncludesTheComponent", "hosts/play/a.cpp", R"("component/object.h")",
+         "component/object.h stands below hosts/"},
+    Case{"componentIncludesHosts", "component/a.cpp", R"("hosts/play/session.h")",
+         "hosts/play/session.h stands below component/"},
     Case{"platformIncludesHosts", "platforms/memory/a.cpp", R"("hosts/play/session.h")",
          "hosts/play/session.h stands below platforms/memory/"},
     Case{"platformIncludesAnother", "platforms/memory/a.cpp", R"("platforms/sqlite/driver.h")",
          "platforms/sqlite/driver.h lies in another room of the same house"},
     Case{"qtIncludesAnother", "platforms/qt/a.cpp", R"("platforms/sqlite/driver.h")",
          "platforms/sqlite/driver.h lies in another room of the same house"},
+    Case{"qtIncludesDesigner", "platforms/qt/a.cpp", R"("platforms/designer/form.h")",
+         "platforms/designer/form.h lies in another room of the same house"},
     Case{"playerIncludesQt", "hosts/play/a.cpp", "<QWidget>",
-         "QWidget is Qt's, outside platforms/qt/ hosts/ufficio/ tests/qt/ tests/ufficio/ bench/"},
+         "QWidget is Qt's, outside platforms/qt/ platforms/designer/ hosts/ufficio/ tests/qt/ tests/designer/ "
+         "tests/ufficio/ bench/"},
     Case{"panelsRoomIncludesAnother", "qvn/panels/quotas/a.cpp", R"("qvn/panels/master/rules.h")",
          "qvn/panels/master/rules.h lies in another room of the same house"},
     Case{"panelIncludesPanel", "qvn/panels/master/ctlC.cpp", R"("qvn/panels/master/ctlA.h")",

@@ -1,14 +1,15 @@
-# Fails if a program in `folder` is linked to any shared library beyond the compiler's own and the C library's.
+# Fails if a program in `folder`, or the shared library `component`, is linked to any shared library beyond the
+# compiler's own, the C library's, and the component.
 cmake_minimum_required(VERSION 3.25)
 
-set(allowed "^(libstdc\\+\\+|libgcc_s|libc|libm|libpthread|libgtest|libgtest_main|libgmock|ld-linux[^.]*)\\.so")
+set(allowed "^(libqvn|libstdc\\+\\+|libgcc_s|libc|libm|libpthread|libgtest|libgtest_main|libgmock|ld-linux[^.]*)\\.so")
 
 file(GLOB programs "${folder}/*")
 list(LENGTH programs count)
 if(count EQUAL 0)
   message(FATAL_ERROR "no programs in ${folder}")
 endif()
-foreach(program IN LISTS programs)
+foreach(program IN LISTS programs component)
   execute_process(COMMAND ${readelf} -d "${program}" OUTPUT_VARIABLE dynamic COMMAND_ERROR_IS_FATAL ANY)
   string(REGEX MATCHALL "Shared library: \\[[^]]+" needed "${dynamic}")
   if(NOT needed)

@@ -1,5 +1,7 @@
 #include "tests/ufficio/at_window.h"
 
+#include <QTableView>
+#include <QTimer>
 #include <algorithm>
 #include <filesystem>
 #include <stdexcept>
@@ -133,6 +135,26 @@ void AtWindow::open(const QString& filter) {
   write(filter);
   ASSERT_FALSE(window().chooser().records().empty()) << "for " << filter.toStdString();
   press(Qt::Key_Return);
+}
+
+Viewed AtWindow::viewed(const std::function<void()>& open) {
+  Viewed seen;
+  office.platform.formsWait(true);
+  QTimer::singleShot(0, [&seen] {
+    QWidget* viewer = QApplication::activeModalWidget();
+    ASSERT_NE(viewer, nullptr);
+    seen.title = viewer->windowTitle();
+    const auto* table = viewer->findChild<QTableView*>();
+    ASSERT_NE(table, nullptr);
+    for (int row = 0; row < table->model()->rowCount(); ++row) {
+      seen.codes.push_back(qt::utf8(table->model()->index(row, 0).data().toString()));
+    }
+    viewer->close();
+  });
+  open();
+  QApplication::setActiveWindow(&window());
+  see();
+  return seen;
 }
 
 QLineEdit& AtWindow::field(const QString& name, int panel) {

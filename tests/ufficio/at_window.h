@@ -6,6 +6,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QTest>
+#include <functional>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <memory>
@@ -70,6 +71,12 @@ class OfficeAt {
 /// The number of a screen in the register.
 std::size_t numberOf(std::string_view screen);
 
+/// What a viewer shows: its title, and the codes of its rows.
+struct Viewed {
+  QString title;
+  std::vector<std::string> codes;
+};
+
 class AtWindow : public testing::Test {
  public:
   AtWindow() { see(); }
@@ -91,6 +98,9 @@ class AtWindow : public testing::Test {
   void open(const QString& filter);
   void edit() { press(Qt::Key_F2); }
   void save() { press(Qt::Key_S, Qt::ControlModifier); }
+
+  /// What the viewer shows that this opens; it is closed then.
+  Viewed viewed(const std::function<void()>& open);
 
   QLineEdit& field(const QString& name, int panel = 0);
   QString focused();

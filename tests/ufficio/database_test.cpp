@@ -1,7 +1,10 @@
 // The window on databases that are not as they should be.
+#include <csignal>
 #include <filesystem>
 #include <optional>
+#include <sys/resource.h>
 
+#include "qvn/shared/conversions.h"
 #include "tests/ufficio/at_window.h"
 
 namespace qvn::test {
@@ -82,6 +85,87 @@ TEST(OfficeDatabase, IsNotWrittenForTooLong) {
   EXPECT_THAT(endless, testing::ThrowsMessage<ufficio::StoreFailure>(HasSubstr("la scrittura richiede troppo tempo")));
   EXPECT_EQ(sample.everything(), before);
   EXPECT_EQ(store.run("UPDATE TIPI_IVA SET IVA = 21 WHERE COD_IVA = 22"), 1) << "it goes on afterwards";
+}
+
+/// A database that does not take what was typed.
+class OfficeDatabaseRefusing : public AtWindow {
+ public:
+  /// Types a VAT line for a movement that had none: the first of all, so that its table has yet to be made.
+  void typeVatLine() {
+    choose("righe-iva");
+    open("12  ");
+    edit();
+    enter("22");
+    enter("1234,56");
+  }
+  void expectTypedStays() {
+    EXPECT_TRUE(window().editing());
+    EXPECT_TRUE(window().isWindowModified());
+    EXPECT_EQ(field("txtCOD_IVA").text(), "22");
+    EXPECT_EQ(as<Currency>(getByName(*screen().panels().front(), "IMPONIBILE"), Locale()),
+              Currency::fromTenThousandths(12345600));
+    EXPECT_TRUE(field("TxtIMPONIBILE").isEnabled());
+  }
+  void expectStored() {
+    save();
+    EXPECT_EQ(notice(), "Il record è stato salvato.");
+    EXPECT_EQ(sample.line("SELECT * FROM MOVIMENTI_IVA"), "12|22|1234.56|271.6");
+  }
+};
+
+TEST_F(OfficeDatabaseRefusing, WhereItCannotGrowKeepsWhatWasTyped) {
+  const std::string before = sample.everything();
+  typeVatLine();
+  office.store.rows("PRAGMA max_page_count = 1");  // no more than it has
+  save();
+  EXPECT_EQ(notice(),
+            "Il record non è stato salvato: il disco è pieno, o il database non può più crescere; liberare spazio e "
+            "riprovare.");
+  expectTypedStays();
+  EXPECT_EQ(sample.everything(), before);
+  office.store.rows("PRAGMA max_page_count = 1000000");
+  expectStored();
+}
+
+TEST_F(OfficeDatabaseRefusing, WhereNoFileCanBeWrittenKeepsWhatWasTyped) {
+  const std::string before = sample.everything();
+  typeVatLine();
+  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
+  rlimit limit{};
+  ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &limit), 0);
+  const rlimit none{.rlim_cur = 0, .rlim_max = limit.rlim_max};
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &none), 0);
+  save();
+  ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &limit), 0);
+  std::signal(SIGXFSZ, handler);
+  EXPECT_THAT(notice().toStdString(), HasSubstr("Il record non è stato salvato: il disco "));
+  expectTypedStays();
+  EXPECT_EQ(sample.everything(), before);
+  expectStored();
+}
+
+TEST_F(OfficeDatabaseRefusing, WhereItIsGoneKeepsWhatWasTyped) {
+  typeVatLine();
+  std::filesystem::rename(sample.file(), sample.beside("altrove.db"));
+  save();
+  EXPECT_THAT(notice().toStdString(), HasSubstr("Il record non è stato salvato: il database "));
+  EXPECT_THAT(notice().toStdString(), HasSubstr("ufficio.db non esiste o non si può aprire"));
+  expectTypedStays();
+  EXPECT_FALSE(std::filesystem::exists(sample.file())) << "none is made in its place";
+  std::filesystem::rename(sample.beside("altrove.db"), sample.file());
+  expectStored();
+}
+
+TEST_F(OfficeDatabaseRefusing, WhereItIsGoneTellsSoAlsoByReading) {
+  open("22  ");
+  std::filesystem::rename(sample.file(), sample.beside("altrove.db"));
+  edit();
+  EXPECT_THAT(notice().toStdString(), HasSubstr("non esiste o non si può aprire"));
+  EXPECT_FALSE(window().editing());
+  EXPECT_EQ(field("TxtCodice").text(), "22") << "what was shown stays";
+  std::filesystem::rename(sample.beside("altrove.db"), sample.file());
+  edit();
+  EXPECT_TRUE(window().editing());
 }
 
 class OfficeLookups : public AtWindow {};

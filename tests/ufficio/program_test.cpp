@@ -60,6 +60,16 @@ TEST(OfficeProgram, WritesAPictureOfEachScreen) {
   }
 }
 
+TEST(OfficeProgram, PicturesInDarkColours) {
+  const office_test::Folder folder;
+  ASSERT_EQ(office_test::campione(inQuotes(folder.file("ufficio.db"))).status, 0);
+  const office_test::Answer run = ufficio(picturing(folder.file("ufficio.db"), folder.file("figure")) + " --dark");
+  EXPECT_EQ(run.status, 0) << run.errors;
+  const QImage picture(QString::fromStdString(folder.file("figure/iva.png")), "PNG");
+  ASSERT_FALSE(picture.isNull());
+  EXPECT_LT(qGray(picture.pixel(picture.width() - 3, picture.height() / 2)), 90);
+}
+
 TEST(OfficeProgram, TellsOfScreensWithoutRecordsToPicture) {
   const office_test::Folder folder;
   const office_test::Answer run = ufficio(picturing(folder.file("manca.db"), folder.file("figure")));
@@ -69,7 +79,7 @@ TEST(OfficeProgram, TellsOfScreensWithoutRecordsToPicture) {
 
 TEST(OfficeProgram, TellsOfAWrongCommandLine) {
   for (const char* wrong :
-       {"--schermo", "--screen", "--screen NESSUNA", "--picture", "--picture ''", "a.db b.db", "''"}) {
+       {"--schermo", "--screen", "--state", "--screen NESSUNA", "--picture", "--picture ''", "a.db b.db", "''"}) {
     const office_test::Answer run = ufficio(wrong, "QT_QPA_PLATFORM=offscreen");
     EXPECT_EQ(run.status, 2) << wrong;
     EXPECT_THAT(run.errors, HasSubstr("usage: qvn-ufficio")) << wrong;

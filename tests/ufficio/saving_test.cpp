@@ -1,5 +1,4 @@
 // Where a record cannot be stored, and where changes might be lost.
-#include <QLabel>
 #include <QToolButton>
 
 #include "tests/ufficio/at_window.h"
@@ -256,7 +255,6 @@ class OfficeSavingPercents : public AtWindow {
     choose("provvigioni");
     ASSERT_TRUE(window().openRecord({.key = {std::int64_t{1}, std::string("COSIR")}, .text = "prima"}));
     edit();
-    ASSERT_TRUE(screen().remark().empty());
     field("TxtP_ACC_PROD").setFocus();
     see();
     enter("7,5");
@@ -264,11 +262,9 @@ class OfficeSavingPercents : public AtWindow {
   }
 };
 
-TEST_F(OfficeSavingPercents, MarksAndTellsAPercentOfNothing) {
+TEST_F(OfficeSavingPercents, MarksAPercentOfNothing) {
   typePercentOfNothing();
   EXPECT_TRUE(window().isWindowModified());
-  EXPECT_EQ(window().findChild<QLabel*>("osservazione")->text(),
-            "Le percentuali non si conservano: si salvano solo gli importi.");
 }
 
 TEST_F(OfficeSavingPercents, AsksBeforeAPercentOfNothingIsLost) {
@@ -283,14 +279,30 @@ TEST_F(OfficeSavingPercents, AsksBeforeAPercentOfNothingIsLost) {
   EXPECT_EQ(field("TxtP_ACC_PROD").text(), "7,50");
 }
 
-TEST_F(OfficeSavingPercents, WritesNothingForAPercentOfNothing) {
+TEST_F(OfficeSavingPercents, StoresAPercentOfNothingAlone) {
   const std::string before = sample.everything();
   typePercentOfNothing();
   save();
   EXPECT_EQ(notice(), "Il record è stato salvato.");
-  EXPECT_EQ(sample.everything(), before);
+  EXPECT_EQ(sample.line("SELECT COD_COMP, CALC_PROD, P_ACC_PROD, P_PN_PROD FROM PERCENTUALI_POLIZZE"), "COSIR|2|7.5|0");
   EXPECT_FALSE(window().isWindowModified());
-  EXPECT_TRUE(window().findChild<QLabel*>("osservazione")->isHidden());
+  EXPECT_EQ(field("TxtP_ACC_PROD").text(), "7,50");
+  sample.write("DROP TABLE PERCENTUALI_POLIZZE");
+  EXPECT_EQ(sample.everything(), before);
+}
+
+TEST_F(OfficeSavingPercents, NeverWritesOverAnothersPercents) {
+  typePercentOfNothing();
+  save();
+  edit();
+  field("TxtP_PN_UFF").setFocus();
+  see();
+  write("3");
+  sample.write("UPDATE PERCENTUALI_POLIZZE SET P_ACC_PROD = 8");
+  save();
+  EXPECT_THAT(notice().toStdString(), HasSubstr("nel frattempo il record è stato modificato o eliminato da altri"));
+  EXPECT_TRUE(window().editing());
+  EXPECT_EQ(sample.line("SELECT P_ACC_PROD, P_PN_UFF FROM PERCENTUALI_POLIZZE"), "8|0");
 }
 
 }  // namespace

@@ -1,8 +1,6 @@
 // The searches at the window: what they find, and the panels that show it while the operator scrolls.
 #include <QPushButton>
 #include <QScrollBar>
-#include <QTableView>
-#include <QTimer>
 #include <algorithm>
 
 #include "hosts/ufficio/results_view.h"
@@ -69,29 +67,10 @@ class OfficeSearch : public AtWindow {
                 "(SELECT min(COD_COMP) FROM QUOTE_POLIZZE WHERE PROT = P.PROT AND DELEGATARIA <> 0) WHERE P.PROT = " +
                     number);
   }
-  struct Viewed {
-    QString title;
-    std::vector<std::string> codes;
-  };
-  /// Clicks the button of a panel, looks at the window that it opens and closes that.
+  /// Clicks a button of a panel that opens a viewer.
   Viewed viewed(const Panel& panel, std::string_view button) {
-    Viewed seen;
-    office.platform.formsWait(true);
-    QTimer::singleShot(0, [&seen] {
-      QWidget* viewer = QApplication::activeModalWidget();
-      ASSERT_NE(viewer, nullptr);
-      seen.title = viewer->windowTitle();
-      const auto* table = viewer->findChild<QTableView*>();
-      ASSERT_NE(table, nullptr);
-      for (int row = 0; row < table->model()->rowCount(); ++row) {
-        seen.codes.push_back(qt::utf8(table->model()->index(row, 0).data().toString()));
-      }
-      viewer->close();
-    });
     const toolkit::Widget& its = panel.surface().widget(button);
-    QTest::mouseClick(office.platform.widgetOf(its), Qt::LeftButton);
-    see();
-    return seen;
+    return AtWindow::viewed([&] { QTest::mouseClick(office.platform.widgetOf(its), Qt::LeftButton); });
   }
 };
 

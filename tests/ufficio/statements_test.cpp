@@ -10,7 +10,7 @@ namespace {
 using testing::HasSubstr;
 
 /// A client with seven lines.
-constexpr const char* kClient = "D00120";
+constexpr const char* kStatedClient = "D00120";
 
 class OfficeStatements : public AtWindow {
  public:
@@ -34,7 +34,7 @@ class OfficeStatements : public AtWindow {
 };
 
 TEST_F(OfficeStatements, ShowAllLinesOfAClientByTheDateOfTheirRegistration) {
-  open(kClient);
+  open(kStatedClient);
   const auto lines = sample.rows(
       "SELECT N_POLIZZA, INT_ASS, SIGLA_SRAMO, COD_RAMO, substr(DATA_REG, 9, 2) || '/' || substr(DATA_REG, 6, 2) || "
       "'/' || substr(DATA_REG, 1, 4), coalesce(ST_COMP, ''), TIPO_DOC, STAMPA FROM ESTRATTI "
@@ -46,7 +46,7 @@ TEST_F(OfficeStatements, ShowAllLinesOfAClientByTheDateOfTheirRegistration) {
     EXPECT_EQ(field("TxtN_POLIZZA", panel).text().toStdString(), lines[i][0]);
     EXPECT_EQ(field("TxtINT_ASS", panel).text().toStdString(), lines[i][1]);
     EXPECT_EQ(field("TxtSIGLA_SRAMO", panel).text().toStdString(), lines[i][2]);
-    EXPECT_EQ(field("TxtCOD_CLI", panel).text().toStdString(), kClient);
+    EXPECT_EQ(field("TxtCOD_CLI", panel).text().toStdString(), kStatedClient);
     EXPECT_EQ(label("LblCOD_GR", i), lines[i][3]);
     EXPECT_EQ(label("LblDATA_REG", i), lines[i][4]);
     EXPECT_EQ(widget<QComboBox>("CmbST_COMP", i).currentText(), lines[i][5] == "S" ? "SCARICATO" : "ATTIVO");
@@ -62,7 +62,7 @@ TEST_F(OfficeStatements, ShowAllLinesOfAClientByTheDateOfTheirRegistration) {
 }
 
 TEST_F(OfficeStatements, HideThePanelsThatAStatementHasNoLinesFor) {
-  open(kClient);
+  open(kStatedClient);
   open("A00001");
   EXPECT_TRUE(field("TxtPREMIO", 0).isVisible());
   for (int panel = 1; panel < 7; ++panel) EXPECT_FALSE(field("TxtPREMIO", panel).isVisible());
@@ -70,7 +70,7 @@ TEST_F(OfficeStatements, HideThePanelsThatAStatementHasNoLinesFor) {
 
 TEST_F(OfficeStatements, StoreWhatWasTypedIntoALineAndNothingElse) {
   const std::string before = sample.everything();
-  open(kClient);
+  open(kStatedClient);
   edit();
   EXPECT_TRUE(field("TxtDATA_EC", 0).hasFocus());
   go("TxtDATA_EC", 1);
@@ -98,7 +98,7 @@ TEST_F(OfficeStatements, StoreWhatWasTypedIntoALineAndNothingElse) {
 }
 
 TEST_F(OfficeStatements, StoreLinesTogetherOrNotAtAll) {
-  open(kClient);
+  open(kStatedClient);
   edit();
   go("TxtPREMIO", 0);
   write("1");
@@ -113,7 +113,7 @@ TEST_F(OfficeStatements, StoreLinesTogetherOrNotAtAll) {
 
 TEST_F(OfficeStatements, FreeTheStateForProducersOnlyWhereALineHasOne) {
   sample.write("UPDATE ESTRATTI SET COD_PROD = NULL, COD_PROD_ALT = '' WHERE N_RIGA = 964");
-  open(kClient);
+  open(kStatedClient);
   edit();
   EXPECT_TRUE(widget<QComboBox>("CmbST_PROD", 0).isEnabled());
   EXPECT_FALSE(widget<QComboBox>("CmbST_PROD", 1).isEnabled());
@@ -121,7 +121,7 @@ TEST_F(OfficeStatements, FreeTheStateForProducersOnlyWhereALineHasOne) {
 }
 
 TEST_F(OfficeStatements, GoFromLineToLineByTheKeyboard) {
-  open(kClient);
+  open(kStatedClient);
   edit();
   for (int panel = 1; panel < 7; ++panel) {
     press(Qt::Key_PageDown, Qt::ControlModifier);
@@ -130,13 +130,13 @@ TEST_F(OfficeStatements, GoFromLineToLineByTheKeyboard) {
 }
 
 TEST_F(OfficeStatements, StayWithTheClientWhenALineGoesToAnother) {
-  open(kClient);
+  open(kStatedClient);
   edit();
   go("TxtCOD_CLI", 0);
   enter("A00001");
   save();
   EXPECT_EQ(sample.line("SELECT COD_CLIENTE FROM ESTRATTI WHERE N_RIGA = 758"), "A00001");
-  EXPECT_EQ(screen().key(), ufficio::Key{std::string(kClient)});
+  EXPECT_EQ(screen().key(), ufficio::Key{std::string(kStatedClient)});
   EXPECT_EQ(field("TxtN_POLIZZA", 0).text(), "52/00002384");
   EXPECT_FALSE(field("TxtN_POLIZZA", 6).isVisible());
 }

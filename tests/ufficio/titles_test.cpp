@@ -1,7 +1,5 @@
 // The outstanding titles of a policy at the window: the actions on offer, and what becomes of the one that is picked.
 #include <QComboBox>
-#include <QTableView>
-#include <QTimer>
 
 #include "platforms/qt/texts.h"
 #include "tests/ufficio/at_window.h"
@@ -216,33 +214,12 @@ TEST_F(OfficeTitles, RefusesAStateThatThereIsNot) {
   EXPECT_THAT(screen().key(), IsEmpty());
 }
 
-/// What a viewer shows: its title, and the codes of its rows.
-struct Viewed {
-  QString title;
-  std::vector<std::string> codes;
-};
-
 class OfficeTitleViewers : public OfficeTitles {
  public:
-  /// Presses the button by the keyboard, looks at the window that it opens and closes that.
+  /// Presses by the keyboard a button that opens a viewer.
   Viewed viewed(std::string_view button) {
-    Viewed seen;
     go(button, 1);
-    office.platform.formsWait(true);
-    QTimer::singleShot(0, [&seen] {
-      QWidget* viewer = QApplication::activeModalWidget();
-      ASSERT_NE(viewer, nullptr);
-      seen.title = viewer->windowTitle();
-      const auto* table = viewer->findChild<QTableView*>();
-      ASSERT_NE(table, nullptr);
-      for (int row = 0; row < table->model()->rowCount(); ++row) {
-        seen.codes.push_back(qt::utf8(table->model()->index(row, 0).data().toString()));
-      }
-      viewer->close();
-    });
-    press(Qt::Key_Space);
-    QApplication::setActiveWindow(&window());
-    return seen;
+    return AtWindow::viewed([] { press(Qt::Key_Space); });
   }
 };
 

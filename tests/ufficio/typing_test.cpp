@@ -8,7 +8,7 @@ using testing::HasSubstr;
 
 class OfficeTyping : public AtWindow {};
 
-constexpr const char* kCode22 = "SELECT * FROM TIPI_IVA WHERE COD_IVA = 22";
+constexpr const char* kStoredCode22 = "SELECT * FROM TIPI_IVA WHERE COD_IVA = 22";
 
 TEST_F(OfficeTyping, FindsRecordsByWhatTheyHold) {
   const std::size_t all = window().chooser().records().size();
@@ -50,7 +50,7 @@ TEST_F(OfficeTyping, StoresWhatWasTyped) {
   enter("23");
   enter("250");
   save();
-  EXPECT_EQ(sample.line(kCode22), "22|NUOVA DELL'ANNO, PIù ALTA|23|100");
+  EXPECT_EQ(sample.line(kStoredCode22), "22|NUOVA DELL'ANNO, PIù ALTA|23|100");
   EXPECT_EQ(notice(), "Il record è stato salvato.");
   EXPECT_FALSE(window().editing());
   EXPECT_FALSE(field("TxtCodice").isEnabled());
@@ -63,7 +63,7 @@ TEST_F(OfficeTyping, FollowsACodeThatWasChanged) {
   edit();
   enter("23");
   save();
-  EXPECT_EQ(sample.rows(kCode22).size(), 0U);
+  EXPECT_EQ(sample.rows(kStoredCode22).size(), 0U);
   EXPECT_EQ(sample.line("SELECT * FROM TIPI_IVA WHERE COD_IVA = 23"), "23|Aliquota ordinaria|22|100");
   edit();
   press(Qt::Key_Return);
@@ -91,7 +91,7 @@ TEST_F(OfficeTyping, ChangesWhatTheDatabaseHoldsByThen) {
   press(Qt::Key_Return);
   enter("altra");
   save();
-  EXPECT_EQ(sample.line(kCode22), "22|ALTRA|21|100");
+  EXPECT_EQ(sample.line(kStoredCode22), "22|ALTRA|21|100");
 }
 
 TEST_F(OfficeTyping, LeavesDecimalsThatNoPanelShowsWhereNothingWasTyped) {

@@ -19,7 +19,7 @@ constexpr auto kSame = std::partial_ordering::equivalent;
 constexpr auto kGreater = std::partial_ordering::greater;
 constexpr auto kUnordered = std::partial_ordering::unordered;
 
-Currency amount(std::int64_t count) { return Currency::fromTenThousandths(count); }
+Currency currency(std::int64_t count) { return Currency::fromTenThousandths(count); }
 
 std::partial_ordering reversed(std::partial_ordering order) {
   return std::is_lt(order) ? kGreater : std::is_gt(order) ? kLess : order;
@@ -33,7 +33,7 @@ void expect(const Variant& a, std::partial_ordering order, const Variant& b) {
 
 std::vector<Variant> oneOfEachKind() {
   return {Empty{},         true, std::uint8_t{1}, std::int16_t{1},
-          std::int32_t{1}, 1.0,  amount(1),       Decimal(),
+          std::int32_t{1}, 1.0,  currency(1),     Decimal(),
           Date(),          "1"s, CurrencyArray{}, std::make_shared<clsQVN_Eventi>()};
 }
 
@@ -49,13 +49,13 @@ TEST(Compare, AnEmptyIsTheEmptyTextOrZero) {
   expect(Empty{}, kLess, "0"s);
   expect(Empty{}, kSame, std::int16_t{0});
   expect(Empty{}, kSame, 0.0);
-  expect(Empty{}, kSame, amount(0));
+  expect(Empty{}, kSame, currency(0));
   expect(Empty{}, kSame, Decimal());
   expect(Empty{}, kSame, Date());
   expect(Empty{}, kSame, false);
   expect(Empty{}, kGreater, true);
   expect(Empty{}, kLess, 0.5);
-  expect(Empty{}, kGreater, amount(-1));
+  expect(Empty{}, kGreater, currency(-1));
 }
 
 TEST(Compare, NumbersCompareByValue) {
@@ -66,13 +66,13 @@ TEST(Compare, NumbersCompareByValue) {
   for (const Variant& a : twelve) {
     for (const Variant& b : twelve) expect(a, kSame, b);
     expect(a, kLess, 12.5);
-    expect(a, kLess, amount(120'001));
+    expect(a, kLess, currency(120'001));
     expect(a, kGreater, Decimal::of({11'999, 0, 0}, 3, false));
     expect(a, kGreater, std::int16_t{-12});
     expect(a, kGreater, true);
   }
   expect(true, kSame, std::int16_t{-1});
-  expect(true, kSame, amount(-10'000));
+  expect(true, kSame, currency(-10'000));
   expect(false, kSame, std::uint8_t{0});
   expect(*Date::of(1, 1, 2026), kLess, *Date::of(2, 1, 2026));
 }
@@ -83,18 +83,18 @@ TEST(Compare, ADoubleMeetsAnyOtherNumberByItsFifteenDigits) {
   expect(aboveOne, kSame, std::uint8_t{1});
   expect(aboveOne, kSame, std::int16_t{1});
   expect(aboveOne, kSame, std::int32_t{1});
-  expect(aboveOne, kSame, amount(10'000));
+  expect(aboveOne, kSame, currency(10'000));
   expect(aboveOne, kSame, Decimal::of(1));
   expect(aboveOne, kSame, Date::fromDays(1));
   expect(-aboveOne, kSame, true);
   expect(belowDay, kSame, Date::fromDays(46'000));
   expect(belowDay, kSame, std::int32_t{46'000});
   expect(1.00000000000001, kGreater, std::int32_t{1});
-  expect(0.1, kSame, amount(1'000));
-  expect(600.04 / 100 * 12.5, kSame, amount(750'050));
+  expect(0.1, kSame, currency(1'000));
+  expect(600.04 / 100 * 12.5, kSame, currency(750'050));
   expect(600.04 / 100 * 12.5, kSame, Decimal::of({75'005, 0, 0}, 3, false));
-  expect(0.1 + 0.2, kSame, amount(3'000));
-  expect(1e300, kGreater, amount(std::numeric_limits<std::int64_t>::max()));
+  expect(0.1 + 0.2, kSame, currency(3'000));
+  expect(1e300, kGreater, currency(std::numeric_limits<std::int64_t>::max()));
   expect(-1e300, kLess, Decimal());
   expect(1e-300, kGreater, Decimal());
 }
@@ -106,21 +106,21 @@ TEST(Compare, TwoDoublesCompareExactly) {
 }
 
 TEST(Compare, EachDigitOfAmountsAndDecimalsCounts) {
-  expect(amount(std::numeric_limits<std::int64_t>::max()), kGreater,
-         amount(std::numeric_limits<std::int64_t>::max() - 1));
-  expect(amount(std::numeric_limits<std::int64_t>::min()), kSame, Decimal::of({0, 0x8000'0000, 0}, 4, true));
+  expect(currency(std::numeric_limits<std::int64_t>::max()), kGreater,
+         currency(std::numeric_limits<std::int64_t>::max() - 1));
+  expect(currency(std::numeric_limits<std::int64_t>::min()), kSame, Decimal::of({0, 0x8000'0000, 0}, 4, true));
   expect(Decimal::of({1, 0, 1}, 0, false), kGreater, Decimal::of({0, 0, 1}, 0, false));
 }
 
 TEST(Compare, WhatIsNoFiniteNumber) {
   const double infinity = std::numeric_limits<double>::infinity();
   const double none = std::numeric_limits<double>::quiet_NaN();
-  expect(infinity, kGreater, amount(std::numeric_limits<std::int64_t>::max()));
+  expect(infinity, kGreater, currency(std::numeric_limits<std::int64_t>::max()));
   expect(-infinity, kLess, Decimal());
   expect(infinity, kSame, infinity);
   expect(infinity, kGreater, 1e308);
   expect(none, kUnordered, none);
-  expect(none, kUnordered, amount(1));
+  expect(none, kUnordered, currency(1));
   expect(none, kUnordered, std::int16_t{1});
   expect(none, kLess, "x"s);
 }
@@ -147,10 +147,10 @@ TEST(Compare, ANumberStandsBeforeAnyText) {
 }
 
 TEST(Compare, ArraysAreEquivalentOrUnordered) {
-  const CurrencyArray array{.extents = {1}, .values = {amount(1)}};
+  const CurrencyArray array{.extents = {1}, .values = {currency(1)}};
   expect(array, kSame, array);
   expect(array, kUnordered, CurrencyArray{});
-  expect(array, kUnordered, amount(1));
+  expect(array, kUnordered, currency(1));
   expect(array, kUnordered, "1"s);
   expect(array, kUnordered, Empty{});
 }
@@ -159,7 +159,7 @@ TEST(Compare, ReferencesAreEquivalentIfTheyAreToOneObject) {
   const Variant one = std::make_shared<clsQVN_Eventi>();
   expect(one, kSame, Variant(one));
   expect(one, kUnordered, std::make_shared<clsQVN_Eventi>());
-  expect(one, kUnordered, amount(1));
+  expect(one, kUnordered, currency(1));
   expect(one, kUnordered, "object"s);
   expect(one, kUnordered, CurrencyArray{});
 }
@@ -182,13 +182,14 @@ TEST(Variant, EmptyAndNullAreNotTheEmptyTextOrZero) {
 }
 
 TEST(CurrencyArray, IsReadByItsIndexes) {
-  const CurrencyArray row{.extents = {3}, .values = {amount(1), amount(2), amount(3)}};
-  EXPECT_EQ(row.at(0), amount(1));
-  EXPECT_EQ(row.at(2), amount(3));
-  const CurrencyArray table{.extents = {2, 3},
-                            .values = {amount(11), amount(12), amount(13), amount(21), amount(22), amount(23)}};
-  EXPECT_EQ(table.at(0, 2), amount(13));
-  EXPECT_EQ(table.at(1, 0), amount(21));
+  const CurrencyArray row{.extents = {3}, .values = {currency(1), currency(2), currency(3)}};
+  EXPECT_EQ(row.at(0), currency(1));
+  EXPECT_EQ(row.at(2), currency(3));
+  const CurrencyArray table{
+      .extents = {2, 3},
+      .values = {currency(11), currency(12), currency(13), currency(21), currency(22), currency(23)}};
+  EXPECT_EQ(table.at(0, 2), currency(13));
+  EXPECT_EQ(table.at(1, 0), currency(21));
 }
 
 TEST(CurrencyArray, FailsOutsideItsExtents) {
@@ -199,9 +200,10 @@ TEST(CurrencyArray, FailsOutsideItsExtents) {
   EXPECT_FAILURE(table.at(0), FailureKind::SubscriptOutOfRange, "(0)");
   EXPECT_FAILURE(table.at(0, 3), FailureKind::SubscriptOutOfRange, "no element (0, 3) in an array of 2 × 3 amounts");
   EXPECT_FAILURE(table.at(2, 0), FailureKind::SubscriptOutOfRange, "(2, 0)");
-  EXPECT_FAILURE(table.at(static_cast<std::size_t>(-1), 0), FailureKind::SubscriptOutOfRange, "18446744073709551615");
+  constexpr auto kMostIndex = static_cast<std::size_t>(-1);
+  EXPECT_FAILURE(table.at(kMostIndex, 0), FailureKind::SubscriptOutOfRange, std::to_string(kMostIndex));
   EXPECT_FAILURE(CurrencyArray{}.at(0), FailureKind::SubscriptOutOfRange, "(0)");
-  const CurrencyArray broken{.extents = {3}, .values = {amount(1)}};
+  const CurrencyArray broken{.extents = {3}, .values = {currency(1)}};
   EXPECT_FAILURE(broken.at(2), FailureKind::SubscriptOutOfRange, "(2)");
 }
 

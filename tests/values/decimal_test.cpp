@@ -5,11 +5,10 @@
 
 #include "qvn/shared/conversions.h"
 #include "tests/failure_matchers.h"
+#include "tests/values/italian.h"
 
 namespace qvn {
 namespace {
-
-const Locale kItalian;
 
 constexpr std::uint32_t kFull = 0xFFFF'FFFF;
 

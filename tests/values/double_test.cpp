@@ -12,14 +12,13 @@
 #include "qvn/shared/patterns.h"
 #include "tests/failure_matchers.h"
 #include "tests/values/decimal_model.h"
+#include "tests/values/italian.h"
 
 namespace qvn {
 namespace {
 
 using test::Exact;
 using test::ModelTies;
-
-const Locale kItalian;
 
 void expectAgreement(double value) {
   const Exact digits = test::toFifteenDigits(test::exactValue(value));
@@ -81,7 +80,7 @@ TEST(Double, TiesOfFifteenDigitsAgreeWithTheModel) {
     // Up to 14 digits and a 5, with the tie at each place; dividing may miss the tie in binary, and must not in digits.
     const std::uint64_t size = std::uint64_t{1} << (random() % 47);
     const auto count = static_cast<double>(random() % size * 10 + 5);
-    const double value = count / powers.at(random() % powers.size());
+    const double value = count / powers.at(static_cast<std::size_t>(random() % powers.size()));
     const double near = std::nextafter(value, i % 3 == 0 ? 0 : value + 1);
     expectAgreement(i % 2 == 0 ? value : -value);
     expectAgreement(i % 2 == 0 ? near : -near);
@@ -169,7 +168,7 @@ TEST(Double, OfACurrencyIsTheNearest) {
 TEST(Double, OfATextIsTheNearest) {
   std::mt19937_64 random(308);
   for (int i = 0; i < 3'000; ++i) {
-    std::string digits(1 + random() % 40, '0');
+    std::string digits(static_cast<std::size_t>(1 + random() % 40), '0');
     for (char& digit : digits) digit = static_cast<char>('0' + random() % 10);
     const int exponent = static_cast<int>(random() % 80) - 60;
     const std::string text = digits + "E" + std::to_string(exponent);

@@ -43,10 +43,25 @@ std::vector<Locale> everyLocale() {
 }
 
 std::vector<std::int64_t> amounts() {
-  constexpr std::int64_t kMost = std::numeric_limits<std::int64_t>::max();
-  constexpr std::int64_t kLeast = std::numeric_limits<std::int64_t>::min();
-  std::vector<std::int64_t> counts{0,     1,      -1,      49,        50,    -50,       99,     4'999,     5'000,
-                                   9'999, 10'000, -10'000, 9'999'950, kMost, kMost - 1, kLeast, kLeast + 1};
+  constexpr std::int64_t kMostUnits = std::numeric_limits<std::int64_t>::max();
+  constexpr std::int64_t kLeastUnits = std::numeric_limits<std::int64_t>::min();
+  std::vector<std::int64_t> counts{0,
+                                   1,
+                                   -1,
+                                   49,
+                                   50,
+                                   -50,
+                                   99,
+                                   4'999,
+                                   5'000,
+                                   9'999,
+                                   10'000,
+                                   -10'000,
+                                   9'999'950,
+                                   kMostUnits,
+                                   kMostUnits - 1,
+                                   kLeastUnits,
+                                   kLeastUnits + 1};
   std::mt19937_64 random(922'337);
   for (int i = 0; i < 100; ++i) counts.push_back(static_cast<std::int64_t>(random()) >> (random() % 64));
   return counts;

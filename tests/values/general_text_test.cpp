@@ -6,11 +6,10 @@
 #include "qvn/shared/conversions.h"
 #include "qvn/shared/patterns.h"
 #include "tests/failure_matchers.h"
+#include "tests/values/italian.h"
 
 namespace qvn {
 namespace {
-
-const Locale kItalian;
 
 std::string general(double value) { return format(value, Pattern::General, kItalian).str(); }
 

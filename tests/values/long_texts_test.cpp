@@ -6,11 +6,11 @@
 #include "qvn/shared/conversions.h"
 #include "qvn/shared/patterns.h"
 #include "tests/failure_matchers.h"
+#include "tests/values/italian.h"
 
 namespace qvn {
 namespace {
 
-const Locale kItalian;
 constexpr std::size_t kMany = 5'000;
 
 std::string zeros(std::size_t count) { return std::string(count, '0'); }

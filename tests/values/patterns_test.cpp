@@ -7,11 +7,10 @@
 #include "qvn/shared/conversions.h"
 #include "tests/failure_matchers.h"
 #include "tests/values/decimal_model.h"
+#include "tests/values/italian.h"
 
 namespace qvn {
 namespace {
-
-const Locale kItalian;
 
 std::string shown(std::int64_t tenThousandths, Pattern pattern, const Locale& locale = kItalian) {
   return format(Currency::fromTenThousandths(tenThousandths), pattern, locale).str();

@@ -9,6 +9,7 @@
 #include "qvn/shared/conversions.h"
 #include "tests/failure_matchers.h"
 #include "tests/values/decimal_model.h"
+#include "tests/values/italian.h"
 
 namespace qvn {
 namespace {
@@ -16,17 +17,15 @@ namespace {
 using test::Exact;
 using test::ModelTies;
 
-const Locale kItalian;
-
 std::string randomDigits(std::mt19937_64& random, std::size_t most) {
-  std::string digits(random() % (most + 1), '0');
+  std::string digits(static_cast<std::size_t>(random() % (most + 1)), '0');
   for (char& digit : digits) digit = static_cast<char>('0' + random() % 10);
   return digits;
 }
 
 /// What often stands behind the place that is rounded to: a tie, just beside one, or anything.
 std::string randomRest(std::mt19937_64& random) {
-  std::string many(random() % 60, random() % 2 == 0 ? '0' : '9');
+  std::string many(static_cast<std::size_t>(random() % 60), random() % 2 == 0 ? '0' : '9');
   switch (random() % 5) {
     case 0:
       return std::string("5").append(many.size(), '0');
@@ -131,7 +130,7 @@ TEST(RandomTexts, AsDecimalAgreeWithTheModel) {
   std::mt19937_64 random(96);
   int overflows = 0;
   for (int i = 0; i < 20'000; ++i) {
-    const Sample sample = randomSample(random, random() % 30, 31);
+    const Sample sample = randomSample(random, static_cast<std::size_t>(random() % 30), 31);
     const std::string& text = sample.text;
     if (const auto expected = modelDecimal(sample.value)) {
       const Decimal read = toDecimal(text, kItalian);

@@ -77,12 +77,15 @@ TEST_F(SystemLocale, OfTheCppLibraryMeansNothing) {
 }
 
 TEST_F(SystemLocale, OfTheCLibraryMeansNothingAsFarAsTheMachineHasAny) {
-  // "C.utf8" comes with the library. Only a machine with one of the others tells of another decimal sign.
-  ASSERT_NE(std::setlocale(LC_ALL, "C.utf8"), nullptr);
-  for (const char* name : {"C.utf8", "it_IT.utf8", "de_DE.utf8", "en_US.utf8", "fr_FR.utf8", "tr_TR.utf8"}) {
+  // Each system has names of its own. Only a machine with more than "C" tells of another decimal sign.
+  int had = 0;
+  for (const char* name : {"C", "C.utf8", "it_IT.utf8", "de_DE.utf8", "en_US.utf8", "fr_FR.utf8", "tr_TR.utf8",
+                           "Italian", "German", "English", "French", "Turkish"}) {
     if (std::setlocale(LC_ALL, name) == nullptr) continue;
+    ++had;
     EXPECT_EQ(sample(), expected_) << name;
   }
+  EXPECT_GT(had, 0);
 }
 
 }  // namespace

@@ -4,24 +4,23 @@
 
 #include "qvn/shared/conversions.h"
 #include "tests/failure_matchers.h"
+#include "tests/values/italian.h"
 
 namespace qvn {
 namespace {
-
-const Locale kItalian;
 
 std::int64_t count(std::string_view text, const Locale& locale = kItalian) {
   return toCurrency(text, locale).tenThousandths();
 }
 
-struct Read {
+struct Reading {
   const char* text;
   std::int64_t tenThousandths;
 };
 
 TEST(TextToCurrency, TakesTheFormsOfTheLocale) {
-  for (const Read& read : {
-           Read{"0", 0},
+  for (const Reading& read : {
+           Reading{"0", 0},
            {"1", 10'000},
            {"1234,56", 12'345'600},
            {"1.234,56", 12'345'600},

@@ -9,20 +9,19 @@
 #include "qvn/shared/conversions.h"
 #include "qvn/shared/patterns.h"
 #include "tests/failure_matchers.h"
+#include "tests/values/italian.h"
 
 namespace qvn {
 namespace {
 
 using namespace std::string_literals;
 
-const Locale kItalian;
-
 template <class Target>
 Target to(const Variant& value) {
   return as<Target>(value, kItalian);
 }
 
-Currency amount(std::int64_t count) { return Currency::fromTenThousandths(count); }
+Currency money(std::int64_t count) { return Currency::fromTenThousandths(count); }
 
 /// Each kind of a number, with the same value.
 std::vector<Variant> numbers(std::uint8_t value) {
@@ -97,11 +96,11 @@ TEST(VariantConversions, TrueIsMinusOneAsANumber) {
 
 TEST(VariantConversions, ABooleanOfANumberOrAText) {
   for (const Variant& on :
-       std::vector<Variant>{true, std::int16_t{-1}, 0.5, 1e-300, amount(1), "True"s, "TRUE"s, "true"s, "-1"s, "0,01"s,
+       std::vector<Variant>{true, std::int16_t{-1}, 0.5, 1e-300, money(1), "True"s, "TRUE"s, "true"s, "-1"s, "0,01"s,
                             Date::fromDays(1), std::numeric_limits<double>::infinity()}) {
     EXPECT_TRUE(to<bool>(on)) << kindName(on);
   }
-  for (const Variant& off : std::vector<Variant>{false, std::int32_t{0}, -0.0, amount(0), "False"s, "fAlSe"s, "0"s,
+  for (const Variant& off : std::vector<Variant>{false, std::int32_t{0}, -0.0, money(0), "False"s, "fAlSe"s, "0"s,
                                                  "€ 0,00"s, Date(), Decimal::of({0, 0, 0}, 3, false)}) {
     EXPECT_FALSE(to<bool>(off)) << kindName(off);
   }
@@ -112,7 +111,7 @@ TEST(VariantConversions, ABooleanOfANumberOrAText) {
 }
 
 TEST(VariantConversions, ATextIsParsed) {
-  EXPECT_EQ(to<Currency>("€ 1.234,56"s), amount(12'345'600));
+  EXPECT_EQ(to<Currency>("€ 1.234,56"s), money(12'345'600));
   EXPECT_EQ(to<double>("12,5"s), 12.5);
   EXPECT_EQ(to<std::int16_t>("2,5"s), 2);
   EXPECT_EQ(to<std::uint8_t>("255"s), 255);
@@ -127,14 +126,14 @@ TEST(VariantConversions, ATextIsParsed) {
 TEST(VariantConversions, NumbersRoundTiesToEven) {
   EXPECT_EQ(to<std::int16_t>(2.5), 2);
   EXPECT_EQ(to<std::int16_t>(3.5), 4);
-  EXPECT_EQ(to<std::int16_t>(amount(25'000)), 2);
-  EXPECT_EQ(to<std::int32_t>(amount(-35'000)), -4);
+  EXPECT_EQ(to<std::int16_t>(money(25'000)), 2);
+  EXPECT_EQ(to<std::int32_t>(money(-35'000)), -4);
   EXPECT_EQ(to<std::uint8_t>(Decimal::of({25, 0, 0}, 1, false)), 2);
-  EXPECT_EQ(to<Currency>(Decimal::of({100'005, 0, 0}, 5, false)), amount(10'000));
-  EXPECT_EQ(to<Currency>(Decimal::of({100'015, 0, 0}, 5, false)), amount(10'002));
-  EXPECT_EQ(to<Currency>(1.00005), amount(10'000));
-  EXPECT_EQ(to<Currency>(1.00015), amount(10'002));
-  EXPECT_EQ(to<Currency>(600.04 / 100 * 12.5), amount(750'050));
+  EXPECT_EQ(to<Currency>(Decimal::of({100'005, 0, 0}, 5, false)), money(10'000));
+  EXPECT_EQ(to<Currency>(Decimal::of({100'015, 0, 0}, 5, false)), money(10'002));
+  EXPECT_EQ(to<Currency>(1.00005), money(10'000));
+  EXPECT_EQ(to<Currency>(1.00015), money(10'002));
+  EXPECT_EQ(to<Currency>(600.04 / 100 * 12.5), money(750'050));
   // 3,5 and 2,5 in 15 digits.
   EXPECT_EQ(to<std::int16_t>(3.4999999999999996), 4);
   EXPECT_EQ(to<std::int32_t>(3.4999999999999996), 4);
@@ -142,7 +141,7 @@ TEST(VariantConversions, NumbersRoundTiesToEven) {
   EXPECT_EQ(to<std::uint8_t>(3.4999999999999996), 4);
   EXPECT_EQ(to<Decimal>(0.1), Decimal::of({1, 0, 0}, 1, false));
   EXPECT_EQ(to<double>(Decimal::of({1, 0, 0}, 1, false)), 0.1);
-  EXPECT_EQ(to<double>(amount(std::numeric_limits<std::int64_t>::min())), -922337203685477.5808);
+  EXPECT_EQ(to<double>(money(std::numeric_limits<std::int64_t>::min())), -922337203685477.5808);
 }
 
 TEST(VariantConversions, NumbersOutOfRangeOverflow) {
@@ -150,7 +149,7 @@ TEST(VariantConversions, NumbersOutOfRangeOverflow) {
                  "300 does not fit an 8-bit unsigned integer (0 to 255)");
   EXPECT_FAILURE(to<std::uint8_t>(std::int16_t{-1}), FailureKind::Overflow, "-1 does not fit");
   EXPECT_FAILURE(to<std::int16_t>(32767.5), FailureKind::Overflow, "32767,5 does not fit a 16-bit integer");
-  EXPECT_FAILURE(to<std::int16_t>(amount(std::numeric_limits<std::int64_t>::min())), FailureKind::Overflow,
+  EXPECT_FAILURE(to<std::int16_t>(money(std::numeric_limits<std::int64_t>::min())), FailureKind::Overflow,
                  "-922337203685477,5808 does not fit");
   EXPECT_FAILURE(to<Currency>(1e15), FailureKind::Overflow, "1E+15 does not fit a currency amount");
   EXPECT_FAILURE(to<Currency>(Decimal::of({0, 0, 1}, 0, false)), FailureKind::Overflow, "18446744073709551616");
@@ -171,7 +170,7 @@ TEST(VariantConversions, ADateOfATextOrANumber) {
   EXPECT_EQ(to<Date>(-1.25), Date::fromDays(-1));
   EXPECT_EQ(to<Date>(0.75), Date());
   EXPECT_EQ(to<Date>(1e-300), Date());
-  EXPECT_EQ(to<Date>(amount(459'999'999)), Date::fromDays(45'999));
+  EXPECT_EQ(to<Date>(money(459'999'999)), Date::fromDays(45'999));
   // 15 digits of the first make 46000, and of the second still 45999 and a time.
   EXPECT_EQ(to<Date>(45'999.99999999999), Date::fromDays(46'000));
   EXPECT_EQ(to<Date>(45'999.9999999999), Date::fromDays(45'999));
@@ -191,7 +190,7 @@ TEST(VariantConversions, ATextIsTheGeneralText) {
   EXPECT_EQ(to<std::string>(std::uint8_t{7}), "7");
   EXPECT_EQ(to<std::string>(12.5), "12,5");
   EXPECT_EQ(to<std::string>(1.5e20), "1,5E+20");
-  EXPECT_EQ(to<std::string>(amount(23'450)), "2,345");
+  EXPECT_EQ(to<std::string>(money(23'450)), "2,345");
   EXPECT_EQ(to<std::string>(Decimal::of({1250, 0, 0}, 2, false)), "12,5");
   EXPECT_EQ(to<std::string>(*Date::of(5, 3, 2026)), "05/03/2026");
   EXPECT_EQ(to<std::string>(Date()), "0.00.00");
@@ -199,7 +198,7 @@ TEST(VariantConversions, ATextIsTheGeneralText) {
 }
 
 TEST(VariantConversions, AnArrayIsNothingElse) {
-  const CurrencyArray array{.extents = {2}, .values = {amount(1), amount(2)}};
+  const CurrencyArray array{.extents = {2}, .values = {money(1), money(2)}};
   EXPECT_EQ(to<CurrencyArray>(array), array);
   EXPECT_FAILURE(to<Currency>(array), FailureKind::TypeMismatch, "a value of kind array of currency is no number");
   EXPECT_FAILURE(to<CurrencyArray>("1"s), FailureKind::TypeMismatch, "a value of kind text is no array of currency");

@@ -4,11 +4,10 @@
 
 #include "qvn/shared/conversions.h"
 #include "qvn/shared/patterns.h"
+#include "tests/values/italian.h"
 
 namespace qvn {
 namespace {
-
-const Locale kItalian;
 
 double number(std::string_view text) { return toDouble(toCurrency(text, kItalian)); }
 

@@ -24,6 +24,8 @@ constexpr RecordDescription kAccountingPrints{
     .table = "STAMPE_CONTABILI",
     .key = kKey,
     .fields = kFields,
+    .adding = Reach::Record,
+    .needed = {"CODICE", "il codice"},
 };
 
 /// None where there are no accounts to print.
@@ -57,12 +59,21 @@ class AccountingPrints final : public RecordScreen {
   }
 
   void write(Store& store, const BoundPanel& panel) const override {
-    if (!store.hasTable(kAccountingPrints.table)) {
-      store.run(
-          "CREATE TABLE STAMPE_CONTABILI (CODICE TEXT NOT NULL PRIMARY KEY, DESCRIZIONE TEXT NOT NULL) WITHOUT ROWID");
-      store.run(std::string("INSERT INTO STAMPE_CONTABILI SELECT * FROM ").append(kBeginning));
-    }
+    makeTable(store);
     RecordScreen::write(store, panel);
+  }
+
+  void erase(Store& store, const BoundPanel& panel) const override {
+    makeTable(store);
+    RecordScreen::erase(store, panel);
+  }
+
+ private:
+  static void makeTable(Store& store) {
+    if (store.hasTable(kAccountingPrints.table)) return;
+    store.run(
+        "CREATE TABLE STAMPE_CONTABILI (CODICE TEXT NOT NULL PRIMARY KEY, DESCRIZIONE TEXT NOT NULL) WITHOUT ROWID");
+    store.run(std::string("INSERT INTO STAMPE_CONTABILI SELECT * FROM ").append(kBeginning));
   }
 };
 

@@ -17,6 +17,12 @@ constexpr std::array kFields{
     Field{"competenze", "competenze", Kind::Number},
 };
 
+constexpr std::array kUses{
+    Use{"POLIZZE", "COD_RAMO", "una polizza"},
+    Use{"SOTTORAMI", "COD_RAMO", "un sottoramo"},
+    Use{"ESTRATTI", "COD_RAMO", "un estratto conto"},
+};
+
 constexpr RecordDescription kBranches{
     .panelClass = "ctlRAMI",
     .find =
@@ -25,6 +31,9 @@ constexpr RecordDescription kBranches{
     .table = "RAMI",
     .key = kKey,
     .fields = kFields,
+    .adding = Reach::Record,
+    .needed = {"COD_RAMO", "il codice"},
+    .uses = kUses,
 };
 
 }  // namespace

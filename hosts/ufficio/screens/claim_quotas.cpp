@@ -23,13 +23,14 @@ constexpr RecordDescription kClaimQuotas{
         "coalesce(C.DESC_CLIENTE, P.COD_CLIENTE, '') AS TESTO, S.N_SINISTRO "
         "FROM SINISTRI S LEFT JOIN POLIZZE P ON P.PROT = S.PROT "
         "LEFT JOIN CLIENTI C ON C.COD_CLIENTE = P.COD_CLIENTE "
-        "WHERE EXISTS (SELECT 1 FROM QUOTE_SINISTRI Q WHERE Q.N_SINISTRO = S.N_SINISTRO) "
-        "AND TESTO LIKE ?1 ESCAPE '\\' ORDER BY S.N_SINISTRO LIMIT ?2",
+        "WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY S.N_SINISTRO LIMIT ?2",
     .table = "QUOTE_SINISTRI",
     .key = kKey,
     .order = "COD_COMP",
     .fields = kFields,
     .panels = 12,
+    .adding = Reach::Row,
+    .needed = {"COD_COMP", "il codice della compagnia"},
 };
 
 class ClaimQuotas final : public QuotaScreen {

@@ -1,13 +1,12 @@
 // The commission of a policy's participants: ctlPROV_POLIZZE on QUOTE_POLIZZE, in the policy's current family of
-// amounts. The table keeps amounts and no percents, so a percent is 0 until the operator types one, and it is told then
-// that only its amount will stay.
+// amounts, and on the percents that the office keeps beside it.
 #include <array>
 #include <optional>
 
+#include "hosts/ufficio/commissions/percents.h"
 #include "hosts/ufficio/record_screen.h"
 #include "hosts/ufficio/screens/makers.h"
 #include "qvn/panels/commissions/ctlPROV_POLIZZE.h"
-#include "qvn/shared/conversions.h"
 #include "qvn/shared/failure.h"
 
 namespace qvn::ufficio::screens {
@@ -45,28 +44,22 @@ constexpr RecordDescription kCommissions{
     .fields = kTrf,
 };
 
-/// The percents, which no column keeps.
-constexpr std::array<std::string_view, 9> kPercents{"P_PN_UFF",      "P_ACC_UFF",      "P_AQ_UFF",
-                                                    "P_PN_PROD",     "P_ACC_PROD",     "P_AQ_PROD",
-                                                    "P_PN_PROD_ALT", "P_ACC_PROD_ALT", "P_AQ_PROD_ALT"};
+using commissions::kPercentFields;
 
-/// What the boxes of percents say; nothing for one that says no number.
-using Percents = std::array<std::optional<Decimal>, kPercents.size()>;
+/// What the percents' properties give; nothing for one that gives no number.
+using Percents = std::array<std::optional<Value>, kPercentFields.size()>;
 
-Percents percentsOf(Panel& panel) {
+Percents percentsIn(Panel& panel) {
   Percents percents;
   for (std::size_t i = 0; i < percents.size(); ++i) {
     try {
-      percents[i] = as<Decimal>(getByName(panel, kPercents[i]), Locale());
+      percents.at(i) = stored(getByName(panel, kPercentFields.at(i).property), kPercentFields.at(i).kind);
     } catch (const Failure&) {
-      percents[i].reset();
+      percents.at(i).reset();
     }
   }
   return percents;
 }
-
-/// The sample office reckons what it passes on as a part of its own commission.
-constexpr std::uint8_t kOnOfficeCommission = 2;
 
 Currency premium(const Row& policy, std::string_view column, std::string_view family) {
   return amountOf(policy.at(std::string(column).append(family)));
@@ -83,37 +76,55 @@ class Commissions final : public RecordScreen {
  public:
   explicit Commissions(const ScreenSite& site) : RecordScreen(kCommissions, site) {}
 
-  bool changed() const override { return RecordScreen::changed() || percentsTyped(); }
-  std::string remark() const override {
-    return percentsTyped() ? "Le percentuali non si conservano: si salvano solo gli importi." : "";
-  }
-
  protected:
   void show(Store& store, BoundPanel& bound, const Row& row) override {
     const std::vector<Row> policies = store.rows("SELECT * FROM POLIZZE WHERE PROT = ?1", std::array{row.at("PROT")});
     if (policies.empty()) throw StoreFailure("la polizza di questa quota non c'è più");
     const Row& policy = policies.front();
     const bool isTrf = textOf(policy.at("U_CALCOLO")) == "TRF";
+    percents_ = commissions::percentsOf(store, row, isTrf ? "TRF" : "TAF");
 
     auto& panel = static_cast<ctlPROV_POLIZZE&>(bound.panel());
-    for (const std::string_view percent : kPercents) letByName(panel, percent, std::int32_t{0});
+    showPercents(panel);  // before the codes, which reckon by what stands there
     panel.COD_COMPAGNIA(textOf(row.at("COD_COMP")));
     panel.COD_PRODUTTORE(textOf(row.at("COD_PROD")));
     panel.COD_PRODUTTORE_ALT(textOf(row.at("COD_PROD_ALT")));
     panel.DELEGATARIA(std::get<bool>(shown(row.at("DELEGATARIA"), Kind::Flag)));
     panel.VALORI(premiumsOf(policy, isTrf ? "_TRF" : "_TAF"));
     letByName(panel, "QUOTA", shown(row.at("QUOTA"), Kind::Number));
-    panel.CALC_PROD(kOnOfficeCommission);
-    panel.CALC_PROD_ALT(kOnOfficeCommission);
     panel.Disattiva();  // a producer's code has enabled his fields
+    showPercents(panel);
     bound.show(row, isTrf ? std::span<const Field>(kTrf) : kTaf);
     panel.TOTALI();
-    asShown_ = percentsOf(panel);
+    asShown_ = percentsIn(panel);
+  }
+
+  bool changedIn(const BoundPanel& bound) const override {
+    return RecordScreen::changedIn(bound) || (bound.row() && percentsIn(bound.panel()) != asShown_);
+  }
+
+  void write(Store& store, const BoundPanel& bound) const override {
+    RecordScreen::write(store, bound);
+    const Percents typed = percentsIn(bound.panel());
+    if (typed == asShown_) return;
+    Row now = percents_;
+    for (std::size_t i = 0; i < typed.size(); ++i) {
+      const Field& field = kPercentFields.at(i);
+      if (typed.at(i) == asShown_.at(i)) continue;
+      // Once more where it has given no number, so that it says why.
+      now.at(field.column) = typed.at(i) ? *typed.at(i) : stored(getByName(bound.panel(), field.property), field.kind);
+    }
+    commissions::storePercents(store, percents_, now);
   }
 
  private:
-  bool percentsTyped() const { return percentsOf(*panels().front()) != asShown_; }
+  void showPercents(Panel& panel) const {
+    for (const Field& field : kPercentFields) {
+      letByName(panel, field.property, shown(percents_.at(field.column), field.kind));
+    }
+  }
 
+  Row percents_;  // as they were read
   Percents asShown_;
 };
 

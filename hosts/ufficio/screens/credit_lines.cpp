@@ -27,6 +27,8 @@ constexpr RecordDescription kCreditLines{
     .key = kKey,
     .fields = kFields,
     .panels = kAllRows,
+    .adding = Reach::Row,
+    .needed = {"COD_COMP", "il codice della compagnia"},
 };
 
 class CreditLines final : public RecordScreen {
@@ -36,9 +38,7 @@ class CreditLines final : public RecordScreen {
  protected:
   std::vector<Row> read(Store& store, const Key& key) const override {
     std::vector<Row> lines = store.rows("SELECT * FROM FIDI WHERE COD_CLIENTE = ?1 ORDER BY COD_COMP", key);
-    lines.push_back({.columns = {"COD_CLIENTE", "COD_COMP", "DATA_FIDO", "FIDO"},
-                     .values = {key.front(), std::string(), Value(), std::int64_t{0}},
-                     .isNew = true});
+    lines.push_back(newRow(key));
     return lines;
   }
 
@@ -46,11 +46,6 @@ class CreditLines final : public RecordScreen {
     // A company that the panel shows already would keep the exposure of the client before.
     letByName(bound.panel(), "COD_COMP", std::string());
     RecordScreen::show(store, bound, row);
-  }
-
-  void write(Store& store, const BoundPanel& bound) const override {
-    if (textOf(bound.toBeStored().at("COD_COMP")).empty()) throw StoreFailure("manca il codice della compagnia");
-    RecordScreen::write(store, bound);
   }
 };
 

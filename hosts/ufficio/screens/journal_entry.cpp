@@ -140,6 +140,21 @@ class JournalEntry final : public Screen {
   }
   bool changed() const override { return lines_.changed() || vat_.changed(); }
 
+  std::string_view newFilter() const override { return "Nuova registrazione"; }
+  Reach removing() const override {
+    return !key_.empty() && std::get<std::int64_t>(key_.front()) > 0 ? Reach::Record : Reach::Nothing;
+  }
+
+  /// The entry as a whole, with its VAT line.
+  void remove(Store& store) override {
+    Store::Transaction transaction(store);
+    lines_.write(store, key_.front(), {});
+    if (!vat_.row()->isNew) vat_.erase(store, journal::kVatTable);
+    transaction.commit();
+    forget();
+  }
+  void forget() override { key_.clear(); }
+
   Key save(Store& store) override {
     const std::vector<Row> lines = lines_.lines();
     check(store, lines);

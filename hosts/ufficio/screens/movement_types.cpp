@@ -15,6 +15,11 @@ constexpr std::array kFields{
     Field{"DESCRIZIONE", "DESCRIZIONE", Kind::Text},
 };
 
+constexpr std::array kUses{
+    Use{"MOVIMENTI", "COD_MOVIMENTO", "una registrazione di prima nota"},
+    Use{"DATI_MOVIMENTI", "COD_MOVIMENTO", "una riga che definisce questo tipo di movimento"},
+};
+
 constexpr RecordDescription kMovementTypes{
     .panelClass = "ctlMOVIMENTI",
     .find =
@@ -23,6 +28,9 @@ constexpr RecordDescription kMovementTypes{
     .table = "TIPI_MOVIMENTI",
     .key = kKey,
     .fields = kFields,
+    .adding = Reach::Record,
+    .needed = {"COD_MOVIMENTO", "il codice"},
+    .uses = kUses,
 };
 
 }  // namespace

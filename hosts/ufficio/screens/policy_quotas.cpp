@@ -1,6 +1,7 @@
 // The participants of a coinsured policy: ctlQ_POLIZZE on QUOTE_POLIZZE, with the policy's premiums in both families.
 #include <array>
 
+#include "hosts/ufficio/commissions/percents.h"
 #include "hosts/ufficio/screens/makers.h"
 #include "hosts/ufficio/screens/quota_screen.h"
 
@@ -20,6 +21,12 @@ constexpr std::array kFields{
     Field{"QUOTA", "QUOTA", Kind::Number},
 };
 
+/// What a participant's commission is entered in, by the screen of the commissions.
+constexpr std::array<std::string_view, 18> kCommissions{
+    "PN_UFF_TRF",      "ACC_UFF_TRF",      "AQ_UFF_TRF",      "pn_prod_TRF",     "acc_prod_TRF",     "aq_prod_TRF",
+    "pn_prod_ALT_TRF", "acc_prod_ALT_TRF", "aq_prod_ALT_TRF", "PN_UFF_TAF",      "ACC_UFF_TAF",      "AQ_UFF_TAF",
+    "pn_prod_TAF",     "acc_prod_TAF",     "aq_prod_TAF",     "pn_prod_ALT_TAF", "acc_prod_ALT_TAF", "aq_prod_ALT_TAF"};
+
 constexpr std::array kHeads{Head{"TAF(0)", "TAF"}, Head{"TRF(0)", "TRF"}};
 
 constexpr RecordDescription kPolicyQuotas{
@@ -27,19 +34,32 @@ constexpr RecordDescription kPolicyQuotas{
     .find =
         "SELECT P.N_POLIZZA || '  ' || coalesce(C.DESC_CLIENTE, P.COD_CLIENTE) AS TESTO, P.PROT "
         "FROM POLIZZE P LEFT JOIN CLIENTI C ON C.COD_CLIENTE = P.COD_CLIENTE "
-        "WHERE EXISTS (SELECT 1 FROM QUOTE_POLIZZE Q WHERE Q.PROT = P.PROT) "
-        "AND TESTO LIKE ?1 ESCAPE '\\' ORDER BY P.PROT LIMIT ?2",
+        "WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY P.PROT LIMIT ?2",
     .table = "QUOTE_POLIZZE",
     .key = kKey,
     .order = "COD_COMP",
     .fields = kFields,
     .panels = 12,
     .heads = kHeads,
+    .adding = Reach::Row,
+    .needed = {"COD_COMP", "il codice della compagnia"},
+    .others = kCommissions,
 };
 
 class PolicyQuotas final : public QuotaScreen {
  public:
   explicit PolicyQuotas(const ScreenSite& site) : QuotaScreen(kPolicyQuotas, site) {}
+
+ protected:
+  void write(Store& store, const BoundPanel& bound) const override {
+    QuotaScreen::write(store, bound);
+    commissions::movePercents(store, bound.row().value(), bound.toBeStored());
+  }
+
+  void erase(Store& store, const BoundPanel& bound) const override {
+    QuotaScreen::erase(store, bound);
+    commissions::erasePercents(store, bound.row().value());
+  }
 
  private:
   /// Net premium, accessories and gross premium, each as TAF, as what goes to the lead alone, of which the office keeps

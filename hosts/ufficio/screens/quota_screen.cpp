@@ -36,6 +36,12 @@ std::string QuotaScreen::remark() const {
   return text.append(".");
 }
 
+std::vector<Row> QuotaScreen::read(Store& store, const Key& key) const {
+  std::vector<Row> rows = RecordScreen::read(store, key);
+  if (rows.empty()) figures(store, newRow(key));  // fails where the whole is gone, too
+  return rows;
+}
+
 void QuotaScreen::show(Store& store, BoundPanel& bound, const Row& row) {
   std::array<Variant, 1> whole{figures(store, row)};
   bound.show(row, description().fields);

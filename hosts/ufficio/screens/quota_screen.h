@@ -16,6 +16,7 @@ class QuotaScreen : public RecordScreen {
   std::string remark() const override;
 
  protected:
+  std::vector<Row> read(Store& store, const Key& key) const override;
   void show(Store& store, BoundPanel& bound, const Row& row) override;
 
  private:

@@ -1,6 +1,7 @@
 // The VAT codes: ctlIVA on TIPI_IVA.
 #include <array>
 
+#include "hosts/ufficio/journal/vat_line.h"
 #include "hosts/ufficio/record_screen.h"
 #include "hosts/ufficio/screens/makers.h"
 
@@ -17,6 +18,10 @@ constexpr std::array kFields{
     Field{"Deb_Dec", "Deb_Dec", Kind::Number},
 };
 
+constexpr std::array kUses{
+    Use{journal::kVatTable, "COD_IVA", "una riga IVA"},
+};
+
 constexpr RecordDescription kVatCodes{
     .panelClass = "ctlIVA",
     .find =
@@ -25,6 +30,9 @@ constexpr RecordDescription kVatCodes{
     .table = "TIPI_IVA",
     .key = kKey,
     .fields = kFields,
+    .adding = Reach::Record,
+    .needed = {"COD_IVA", "il codice"},
+    .uses = kUses,
 };
 
 }  // namespace

@@ -1,0 +1,155 @@
+#include "hosts/ufficio/record_desk.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "hosts/ufficio/result_screen.h"
+#include "platforms/qt/texts.h"
+
+namespace qvn::ufficio {
+
+void RecordDesk::find() {
+  if (screen() == nullptr) return;
+  RecordChooser& chooser = tools_.chooser;
+  const int most = shown_->results == nullptr ? RecordChooser::kMost : ResultScreen::kMost;
+  std::vector<Found> found;
+  const bool looked = tools_.attempt("I record non si possono cercare", [&] {
+    found = screen()->find(tools_.store, chooser.filter().toStdString(), most + 1);
+  });
+  const auto shown = std::ranges::find(found, screen()->key(), &Found::key);
+  if (shown != found.end()) shown_->record = qt::shown(shown->text);
+  chooser.show(std::move(found), most);
+  if (!looked) chooser.clear();
+  if (shown_->results != nullptr) takeResults(chooser.records());
+  chooser.mark(screen()->key());
+}
+
+void RecordDesk::takeResults(std::span<const Found> found) {
+  screen()->results()->take(found);
+  shown_->results->renew();
+  if (screen()->key().empty()) shown_->record.clear();
+  tools_.showState();
+}
+
+bool RecordDesk::load(const Key& key) {
+  const bool loaded = tools_.attempt("Il record non si può mostrare", [&] { screen()->load(tools_.store, key); });
+  shown_->placeLoaded(tools_.platform);
+  tools_.platform.settle();
+  if (screen()->key().empty()) shown_->record.clear();
+  tools_.chooser.mark(screen()->key());
+  tools_.showState();
+  return loaded;
+}
+
+bool RecordDesk::open(const Found& record) {
+  if (screen() == nullptr) return false;
+  if (editing_ && record.key == screen()->key()) {
+    backToField();
+    return true;
+  }
+  if (!leave()) {
+    tools_.chooser.mark(screen()->key());
+    return false;
+  }
+  if (!load(record.key)) return false;
+  shown_->record = qt::shown(record.text);
+  tools_.notice.tell({});
+  tools_.showState();
+  return true;
+}
+
+bool RecordDesk::renew() {
+  if (editing_ || screen() == nullptr) return false;
+  tools_.notice.tell({});
+  find();
+  return screen()->key().empty() || load(screen()->key());
+}
+
+void RecordDesk::forget() {
+  shown_->forget();
+  tools_.showState();
+}
+
+bool RecordDesk::edit() {
+  if (editing_ || screen() == nullptr || screen()->key().empty() || !screen()->editable()) return false;
+  // What is changed is to be what the database holds now.
+  if (!load(screen()->key())) return false;
+  editing_ = tools_.attempt("Il record non si può modificare", [&] { screen()->Attiva(); });
+  tools_.platform.settle();
+  if (editing_) tools_.notice.tell("Modifica in corso.");
+  tools_.showState();
+  return editing_;
+}
+
+bool RecordDesk::save() {
+  if (!editing_) return true;
+  Key key;
+  const bool saved = tools_.field.leave() && tools_.attempt("Il record non è stato salvato", [&] {
+    key = screen()->changed() ? screen()->save(tools_.store) : screen()->key();
+  });
+  if (!saved) {
+    backToField();
+    tools_.showState();
+    return false;
+  }
+  editing_ = false;
+  const bool other = key != screen()->key();
+  RecordChooser& chooser = tools_.chooser;
+  Notice& notice = tools_.notice;
+  notice.tell({});
+  load(key);
+  find();
+  // One that was new is no longer what the filter has found it by.
+  if (other && std::ranges::find(chooser.records(), key, &Found::key) == chooser.records().end()) {
+    chooser.clearFilter();
+    find();
+  }
+  const QString trouble = notice.text();  // with showing what was stored
+  if (trouble.isEmpty()) {
+    notice.tell("Il record è stato salvato.");
+  } else {
+    notice.warn("Il record è stato salvato. " + trouble);
+  }
+  tools_.showState();
+  return true;
+}
+
+bool RecordDesk::cancel() {
+  if (!editing_ || !leave()) return false;
+  if (!isNew()) return load(screen()->key());
+  const Key before = shown_->before;
+  forget();
+  if (!before.empty()) load(before);
+  find();
+  return true;
+}
+
+bool RecordDesk::leave() {
+  if (!editing_) return true;
+  tools_.field.leave();
+  if (screen()->changed()) {
+    switch (tools_.ask(shown_->record)) {
+      case Unsaved::Save:
+        return save();
+      case Unsaved::Stay:
+        backToField();
+        return false;
+      case Unsaved::Discard:
+        break;
+    }
+  }
+  endEditing();
+  tools_.showState();
+  return true;
+}
+
+void RecordDesk::endEditing() {
+  if (editing_) tools_.attempt("I campi non si possono chiudere", [&] { screen()->Disattiva(); });
+  editing_ = false;
+}
+
+void RecordDesk::backToField() {
+  if (editing_) tools_.field.goBack();
+}
+
+}  // namespace qvn::ufficio

@@ -1,0 +1,127 @@
+// The window's commands: their keys, and what F1 tells of each screen.
+#include <QDialog>
+#include <QMenu>
+#include <QMenuBar>
+#include <QTextBrowser>
+#include <QToolBar>
+#include <map>
+#include <set>
+
+#include "hosts/ufficio/help.h"
+#include "platforms/qt/texts.h"
+#include "tests/ufficio/at_window.h"
+
+namespace qvn::test {
+namespace {
+
+using testing::HasSubstr;
+
+class OfficeCommands : public AtWindow {
+ public:
+  /// All entries of the menus.
+  std::vector<QAction*> commands() {
+    std::vector<QAction*> all;
+    for (const QAction* menu : window().menuBar()->actions()) {
+      for (QAction* entry : menu->menu()->actions()) {
+        if (!entry->isSeparator()) all.push_back(entry);
+      }
+    }
+    return all;
+  }
+  QDialog* help() {
+    for (QDialog* dialog : window().findChildren<QDialog*>("guida")) {
+      if (dialog->isVisible()) return dialog;
+    }
+    return nullptr;
+  }
+};
+
+/// The letter behind the "&" of a caption.
+QChar mnemonic(const QString& caption) {
+  const auto place = caption.indexOf('&');
+  return place < 0 ? QChar() : caption.at(place + 1).toLower();
+}
+
+TEST_F(OfficeCommands, HaveEachAKeyOfItsOwnThatIsShown) {
+  std::map<QString, QString> keys;
+  for (const QAction* command : commands()) {
+    const QString key = command->shortcut().toString(QKeySequence::NativeText);
+    ASSERT_FALSE(key.isEmpty()) << command->text().toStdString();
+    EXPECT_TRUE(keys.emplace(key, command->text()).second) << key.toStdString() << " twice";
+    EXPECT_TRUE(command->isShortcutVisibleInContextMenu()) << command->text().toStdString();
+    EXPECT_TRUE(command->toolTip().endsWith("(" + key + ")")) << command->toolTip().toStdString();
+  }
+  EXPECT_GE(keys.size(), 15U);
+}
+
+TEST_F(OfficeCommands, HaveEachALetterOfItsOwnInTheirMenu) {
+  std::set<QChar> ofMenus;
+  for (const QAction* menu : window().menuBar()->actions()) {
+    EXPECT_TRUE(ofMenus.insert(mnemonic(menu->text())).second) << menu->text().toStdString();
+    std::set<QChar> letters;
+    for (const QAction* entry : menu->menu()->actions()) {
+      if (entry->isSeparator()) continue;
+      EXPECT_FALSE(mnemonic(entry->text()).isNull()) << entry->text().toStdString();
+      EXPECT_TRUE(letters.insert(mnemonic(entry->text())).second) << entry->text().toStdString();
+    }
+  }
+}
+
+TEST_F(OfficeCommands, AreAllInTheMenus) {
+  const std::vector<QAction*> all = commands();
+  for (QAction* shown : window().findChild<QToolBar*>("comandi")->actions()) {
+    EXPECT_NE(std::ranges::find(all, shown), all.end()) << shown->text().toStdString();
+  }
+}
+
+TEST_F(OfficeCommands, GoRoundTheWindowByKeysAlone) {
+  press(Qt::Key_F6);
+  EXPECT_EQ(focused(), "schermate");
+  press(Qt::Key_End);
+  see();
+  EXPECT_EQ(window().windowTitle(), "[*]Rami – Ufficio");
+  press(Qt::Key_F, Qt::ControlModifier);
+  EXPECT_EQ(focused(), "filtro");
+  press(Qt::Key_Down);
+  EXPECT_EQ(focused(), "record");
+  press(Qt::Key_Return);
+  ASSERT_FALSE(screen().key().empty());
+  edit();
+  EXPECT_EQ(focused(), "TxtCOD_RAMO");
+  press(Qt::Key_Tab);
+  EXPECT_TRUE(field(focused()).isEnabled());
+  press(Qt::Key_Escape);
+  EXPECT_FALSE(window().editing());
+}
+
+TEST_F(OfficeCommands, TellByF1WhatTheScreenIsForAndAllKeys) {
+  open("22  ");
+  edit();
+  press(Qt::Key_F1);
+  ASSERT_NE(help(), nullptr);
+  EXPECT_EQ(help()->windowTitle(), "Guida – Codici IVA");
+  const std::string text = qt::utf8(help()->findChild<QTextBrowser*>()->toPlainText());
+  EXPECT_THAT(text, HasSubstr("I codici IVA: per ogni codice"));
+  for (const QAction* command : commands()) {
+    EXPECT_THAT(text, HasSubstr(qt::utf8(command->shortcut().toString(QKeySequence::NativeText))));
+  }
+  QTest::keyClick(help(), Qt::Key_Escape);
+  see();
+  EXPECT_EQ(help(), nullptr);
+  QApplication::setActiveWindow(&window());
+  see();
+  EXPECT_EQ(focused(), "TxtCodice") << "the work goes on where it was";
+  EXPECT_TRUE(window().editing());
+}
+
+TEST_F(OfficeCommands, TellOfEveryScreenSomethingElse) {
+  std::set<QString> texts;
+  for (const ufficio::ScreenClass& made : ufficio::screenClasses()) {
+    const QString text = ufficio::helpOn(made.name);
+    EXPECT_GE(text.size(), 100) << made.name;
+    EXPECT_TRUE(texts.insert(text).second) << made.name;
+  }
+}
+
+}  // namespace
+}  // namespace qvn::test
