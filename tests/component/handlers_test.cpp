@@ -185,7 +185,8 @@ TEST_F(Handlers, thatFailOtherwiseMakeAnInvalidCall) {
   for (const std::int32_t answer :
        std::vector<std::int32_t>{QVN_INVALID_ARGUMENT, QVN_OUT_OF_MEMORY, QVN_UNKNOWN, -1, 4711}) {
     heard.answer = answer;
-    const qvn_value value = text(std::to_string(answer));
+    const std::string written = std::to_string(answer);
+    const qvn_value value = text(written);
     EXPECT_EQ(QVN_INVALID_CALL, qvn_let(panel.get(), "DESCRIZIONE", &value));
   }
 }

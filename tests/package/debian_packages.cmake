@@ -1,6 +1,7 @@
-# Makes the Debian packages of the build tree `build`, unpacks them into an empty root with dpkg, and runs the programs
-# from there. Their scripts are not run, so that no root is needed.
+# Makes the Debian packages of the build tree `build`, unpacks them into an empty root with dpkg, runs the programs from
+# there, and builds hosts against what lies there. Their scripts are not run, so that no root is needed.
 cmake_minimum_required(VERSION 3.25)
+include(${CMAKE_CURRENT_LIST_DIR}/everything.cmake)
 
 set(root "${work}/root")
 file(REMOVE_RECURSE "${work}")
@@ -66,4 +67,19 @@ file(STRINGS "${root}/usr/share/applications/qvn-ufficio.desktop" icon REGEX "^I
 string(REPLACE "Icon=" "" icon "${icon}")
 if(NOT EXISTS "${root}/usr/share/icons/hicolor/scalable/apps/${icon}.svg")
   message(FATAL_ERROR "There is no icon ${icon}")
+endif()
+
+# Hosts in C++ and in C, of what the packages for them have laid down.
+everything_runs("${root}/usr" "${work}/everything")
+if(component)
+  run(${CMAKE_COMMAND}
+    -D sample=c
+    -D "page=${source}/docs/embedding.md"
+    -D "work=${work}/c"
+    -D "prefix=${root}/usr"
+    -D "c_compiler=${c_compiler}"
+    -D "compiler=${compiler}"
+    "-Dflags=${flags}"
+    -D "generator=${generator}"
+    -P "${source}/tests/samples/sample.cmake")
 endif()

@@ -1,5 +1,6 @@
 # Installs the build tree `build` into the empty folder `prefix`, builds a program against what lies there, and runs it.
 cmake_minimum_required(VERSION 3.25)
+include(${CMAKE_CURRENT_LIST_DIR}/everything.cmake)
 
 file(REMOVE_RECURSE "${prefix}")
 execute_process(COMMAND ${CMAKE_COMMAND} --install "${build}" --prefix "${prefix}"
@@ -17,22 +18,6 @@ foreach(file IN LISTS expected)
   endif()
 endforeach()
 
-# A program that links all libraries, built somewhere with nothing but the prefix to find.
 if(sqlite)
-  file(REMOVE_RECURSE "${work}/everything")
-  file(COPY "${source}/tests/package/everything" DESTINATION "${work}")
-  execute_process(
-    COMMAND ${CMAKE_COMMAND} -S "${work}/everything" -B "${work}/everything/build" -G "${generator}"
-      "-DCMAKE_CXX_COMPILER=${compiler}" "-DCMAKE_CXX_FLAGS=${flags}" "-DCMAKE_PREFIX_PATH=${prefix}"
-    OUTPUT_QUIET COMMAND_ERROR_IS_FATAL ANY)
-  execute_process(COMMAND ${CMAKE_COMMAND} --build "${work}/everything/build"
-    OUTPUT_VARIABLE output RESULT_VARIABLE status)
-  if(NOT status EQUAL 0)
-    message(FATAL_ERROR "everything does not build against the package:\n${output}")
-  endif()
-  execute_process(COMMAND "${work}/everything/build/everything" OUTPUT_VARIABLE said COMMAND_ERROR_IS_FATAL ANY)
-  file(READ "${source}/tests/package/everything.txt" expected)
-  if(NOT said STREQUAL expected)
-    message(FATAL_ERROR "everything said:\n${said}\ninstead of:\n${expected}")
-  endif()
+  everything_runs("${prefix}" "${work}/everything")
 endif()

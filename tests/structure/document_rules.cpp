@@ -12,6 +12,7 @@ namespace qvn::structure {
 namespace {
 
 constexpr std::string_view kFence = "```";
+constexpr std::string_view kIndented = "    ";
 
 /// The name by which a link reaches a heading.
 std::string anchorOf(std::string_view heading) {
@@ -87,6 +88,7 @@ std::vector<std::string> wrongInDocument(const Source& document, const std::file
         if (const auto what = wrongWithCode(above, code, root); !what.empty()) complain(opened, "the code " + what);
       }
     }
+    if (line.starts_with(kIndented) && line.ends_with(';')) complain(number, "the code stands in no block");
     for (std::sregex_iterator found(line.begin(), line.end(), link), end; found != end; ++found) {
       if (const auto what = wrongWithLink((*found)[1], document, root); !what.empty())
         complain(number, (*found)[1].str() + " " + what);

@@ -76,6 +76,12 @@ TEST(DocumentRules, refuseCodeThatIsNeither) {
   EXPECT_THAT(wrongIn("A host:\n```c\nint main(void) {}\n```\n"), ElementsAre(wrong));
 }
 
+TEST(DocumentRules, refuseCodeThatStandsInNoBlock) {
+  EXPECT_THAT(wrongIn("A value:\n\n    qvn_value rate = {0};\n"),
+              ElementsAre("README.md:3: the code stands in no block"));
+  EXPECT_THAT(wrongIn("Commands:\n\n    ./dev test\n\nand this; and that;\n"), IsEmpty());
+}
+
 TEST(DocumentRules, refuseABlockWithoutAnEnd) {
   EXPECT_THAT(wrongIn("fine\n```text\nand so on\n"), ElementsAre("README.md:2: the block does not end"));
 }
