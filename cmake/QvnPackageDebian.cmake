@@ -61,7 +61,7 @@ if(TARGET qvn_ufficio)
   install(FILES cmake/debian/qvn-ufficio.desktop DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/applications COMPONENT office)
   install(FILES cmake/debian/qvn-ufficio.svg
     DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/icons/hicolor/scalable/apps COMPONENT office)
-  qvn_debian_package(qvn-ufficio COMPONENT office SECTION misc RECOMMENDS qt6-wayland
+  qvn_debian_package(qvn-ufficio COMPONENT office SECTION misc RECOMMENDS "qt6-translations-l10n, qt6-wayland"
     SUMMARY "sample office of an insurance broker"
     DESCRIPTION "An office with a database of its own, whose records are shown in the panels
 of the library qvn, changed and stored. With it come qvn-campione, which

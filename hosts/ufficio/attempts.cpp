@@ -12,7 +12,7 @@ bool Attempts::operator()(const QString& failed, const std::function<void()>& wo
     work();
     return true;
   } catch (const std::exception& failure) {
-    notice_.warn(QString("%1: %2.").arg(failed, reasonOf(failure)));
+    notice_.warn(QString("%1: %2.").arg(failed, reasonOf(failure)), wordsOf(failure));
   }
   return false;
 }

@@ -22,7 +22,7 @@ struct Text {
 
 constexpr std::array kTexts{
     Text{"iva",
-         "<p>I codici IVA: per ogni codice la descrizione, l'aliquota e la parte detraibile, in percento.</p>"
+         "<p>I codici IVA: per ogni codice la descrizione, l'aliquota e la parte deducibile («Ded.»), in percento.</p>"
          "<p><b>Nuovo</b> comincia un codice. Un codice usato da una riga IVA non si può eliminare. Le percentuali "
          "sopra 100 diventano 100.</p>"},
     Text{"provvigioni",
@@ -39,19 +39,19 @@ constexpr std::array kTexts{
         "<p>Le compagnie che partecipano a una polizza, un pannello per ciascuna: la quota in millesimi, la compagnia, "
         "i produttori, il numero che la polizza ha presso la compagnia e la data della rimessa. A destra sta quanto "
         "vale la quota nelle due serie di premi, TAF e TRF.</p>"
-        "<p><b>Nuovo</b> aggiunge un partecipante, <b>Elimina</b> toglie quello in cui si scrive; entrambi valgono da "
-        "quando si salva. Sotto i pannelli sta la somma delle quote.</p>"
+        "<p><b>Nuovo</b> aggiunge un partecipante, <b>Elimina</b> toglie quello in cui si scrive; entrambi hanno "
+        "effetto quando si salva. Sotto i pannelli sta la somma delle quote.</p>"
         "<p>Nei campi dei codici il tasto <b>?</b> apre l'elenco: quello che è già scritto ne è l'inizio, e con "
         "<b>!</b> davanti l'inizio della descrizione. Invio sceglie, Esc rinuncia.</p>"},
     Text{"quote-sinistri",
          "<p>Le compagnie che partecipano a un sinistro, un pannello per ciascuna, con la quota in millesimi del danno "
          "stimato e di quello liquidato.</p>"
-         "<p><b>Nuovo</b> aggiunge un partecipante, <b>Elimina</b> toglie quello in cui si scrive; entrambi valgono da "
-         "quando si salva. Nel campo della compagnia il tasto <b>?</b> apre l'elenco.</p>"},
+         "<p><b>Nuovo</b> aggiunge un partecipante, <b>Elimina</b> toglie quello in cui si scrive; entrambi hanno "
+         "effetto quando si salva. Nel campo della compagnia il tasto <b>?</b> apre l'elenco.</p>"},
     Text{"sospesi",
          "<p>I titoli sospesi di una polizza, un pannello per ciascuno. L'elenco di un titolo offre quello che il suo "
-         "stato permette di farne; la scelta si compie quando si salva.</p>"
-         "<p>Annullare può solo chi è autorizzato (menù Operatore): per gli altri l'annullamento resta da fare. I "
+         "stato permette di farne; la scelta ha effetto quando si salva.</p>"
+         "<p>Può annullare solo chi è autorizzato (menù Operatore); l'annullamento scelto da altri resta in sospeso. I "
          "pulsanti mostrano le compagnie e i produttori del titolo, anche senza Modifica.</p>"},
     Text{"estratti",
          "<p>L'estratto conto di un cliente, un pannello per ogni riga: documento, polizza, date, premio, rimborso e "
@@ -60,8 +60,8 @@ constexpr std::array kTexts{
          "completa con il mese e l'anno correnti.</p>"},
     Text{"fidi",
          "<p>I fidi di un cliente: quanto ogni compagnia gli concede e da quando, con la sua esposizione.</p>"
-         "<p><b>Nuovo</b> va alla riga vuota, <b>Elimina</b> toglie la riga in cui si scrive; entrambi valgono da "
-         "quando si salva. Nel campo della compagnia il tasto <b>?</b> apre l'elenco.</p>"},
+         "<p><b>Nuovo</b> va alla riga vuota, <b>Elimina</b> toglie la riga in cui si scrive; entrambi hanno "
+         "effetto quando si salva. Nel campo della compagnia il tasto <b>?</b> apre l'elenco.</p>"},
     Text{
         "ricerca-polizze",
         "<p>Cerca tra le polizze mentre si scrive: numero, cliente, stato. Ogni polizza trovata ha il suo pannello.</p>"
@@ -84,9 +84,9 @@ constexpr std::array kTexts{
          "<p>Nei campi del mastro e del conto il tasto <b>?</b> apre l'elenco.</p>"},
     Text{"giornale",
          "<p>Il libro giornale di un anno fino all'ultimo giorno che si scrive: i riporti, le righe e i totali. "
-         "«Definitiva» dice di che stampa si tratta.</p>"
-         "<p><b>Stampa in PDF</b> scrive il giornale in un file; durante la stampa si può annullare, e allora il file "
-         "non c'è.</p>"},
+         "Con «Definitiva» il file porta la scritta «Stampa definitiva», altrimenti «Stampa di prova».</p>"
+         "<p><b>Stampa in PDF</b> scrive il giornale in un file; durante la stampa la si può interrompere, e allora il "
+         "file non viene scritto.</p>"},
     Text{"tipi-movimenti",
          "<p>I tipi di movimento della prima nota, con codice e descrizione.</p>"
          "<p><b>Nuovo</b> comincia un tipo. Un tipo usato da una registrazione, o da righe che lo definiscono, "

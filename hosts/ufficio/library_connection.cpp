@@ -13,11 +13,14 @@ void LibraryConnection::answer() {
   failed_ = true;
   Globale::Eventi()->ImpostaDB("sqlite:" + store_.path());
   failed_ = false;
+  answered_ = store_.openings();
 }
 
 void LibraryConnection::renew() {
-  if (!failed_) return;
+  const bool other = answered_ != 0 && answered_ != store_.openings();
+  if (!failed_ && !other) return;
   failed_ = false;
+  answered_ = 0;
   Globale::unload();
   listen();
 }

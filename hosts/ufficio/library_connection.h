@@ -14,7 +14,8 @@ class LibraryConnection {
   LibraryConnection(const LibraryConnection&) = delete;
   LibraryConnection& operator=(const LibraryConnection&) = delete;
 
-  /// Lets the library ask anew after an opening that failed. Not to be called from inside one of its handlers.
+  /// Lets the library ask anew after an opening that failed, and where the office reads another file by now. Not to be
+  /// called from inside one of its handlers.
   void renew();
 
  private:
@@ -24,6 +25,7 @@ class LibraryConnection {
   Store& store_;
   Subscription subscription_;
   bool failed_ = false;
+  int answered_ = 0;  ///< the store's openings when the library got its database; 0 before
 };
 
 }  // namespace qvn::ufficio

@@ -13,6 +13,7 @@
 #include <string>
 
 #include "hosts/ufficio/arguments.h"
+#include "hosts/ufficio/italian.h"
 #include "hosts/ufficio/pictures.h"
 #include "hosts/ufficio/register.h"
 #include "hosts/ufficio/window.h"
@@ -75,6 +76,7 @@ int run(const Arguments& arguments) {
   std::optional<OpeningDisplay> opening(std::in_place);
   qvn::qt::Platform platform(window ? qvn::qt::Display::Desktop : qvn::qt::Display::Offscreen);
   opening.reset();
+  const ItalianDialogs italian;
   platform.drivers().add(qvn::sqlite::driver());
   const Installed installed(platform);
   Store store(arguments.database);

@@ -22,12 +22,13 @@ Notice::Notice(QWidget* parent) : QWidget(parent), sign_(new QLabel(this)), text
   text_->setAccessibleName("Avviso");
 }
 
-void Notice::tell(const QString& text) { show(text, false); }
-void Notice::warn(const QString& text) { show(text, true); }
+void Notice::tell(const QString& text) { show(text, {}, false); }
+void Notice::warn(const QString& text, const QString& words) { show(text, words, true); }
 
-void Notice::show(const QString& text, bool warning) {
+void Notice::show(const QString& text, const QString& words, bool warning) {
   sign_->setVisible(warning);
   text_->setText(text);
+  text_->setToolTip(words);
 }
 
 }  // namespace qvn::ufficio

@@ -12,12 +12,14 @@ class Notice final : public QWidget {
   explicit Notice(QWidget* parent = nullptr);
 
   QString text() const { return text_->text(); }
+  /// The words that the text has behind it, as its tooltip shows them.
+  QString words() const { return text_->toolTip(); }
   void tell(const QString& text);
   /// With a sign that something did not work.
-  void warn(const QString& text);
+  void warn(const QString& text, const QString& words = {});
 
  private:
-  void show(const QString& text, bool warning);
+  void show(const QString& text, const QString& words, bool warning);
 
   QLabel* sign_;
   QLabel* text_;

@@ -10,7 +10,7 @@ namespace qvn::ufficio {
 
 namespace {
 
-const char* wordsOf(FailureKind kind) {
+const char* clauseOf(FailureKind kind) {
   switch (kind) {
     case FailureKind::TypeMismatch:
       return "un valore manca o non è valido";
@@ -21,7 +21,7 @@ const char* wordsOf(FailureKind kind) {
     case FailureKind::InvalidUseOfNull:
       return "nel database manca un valore";
     case FailureKind::Database:
-      return "una ricerca nel database non è riuscita";
+      return "una ricerca nel database non è riuscita; riprovare tra poco";
     case FailureKind::SubscriptOutOfRange:
     case FailureKind::InvalidCall:
     case FailureKind::NoSuchMember:
@@ -46,14 +46,16 @@ constexpr std::array kEvents{
 }  // namespace
 
 QString reasonOf(const std::exception& failure) {
-  QString words = qt::shown(failure.what());
-  if (dynamic_cast<const StoreFailure*>(&failure) != nullptr) return words;
-  if (const auto* ofLibrary = dynamic_cast<const Failure*>(&failure)) return reasonOf(ofLibrary->kind(), words);
-  return QString("c'è un errore imprevisto (%1)").arg(words);
+  if (dynamic_cast<const StoreFailure*>(&failure) != nullptr) return qt::shown(failure.what());
+  if (const auto* ofLibrary = dynamic_cast<const Failure*>(&failure)) return reasonOf(ofLibrary->kind());
+  return "c'è un errore imprevisto";
 }
 
-QString reasonOf(FailureKind kind, const QString& words) {
-  return QString("%1 (%2)").arg(QString::fromUtf8(wordsOf(kind)), words);
+QString reasonOf(FailureKind kind) { return QString::fromUtf8(clauseOf(kind)); }
+
+QString wordsOf(const std::exception& failure) {
+  const auto* ofStore = dynamic_cast<const StoreFailure*>(&failure);
+  return qt::shown(ofStore == nullptr ? failure.what() : ofStore->words());
 }
 
 QString spokenEvent(const QString& event) {

@@ -8,10 +8,12 @@
 
 namespace qvn::ufficio {
 
-/// A clause in Italian; the library's own words stand in it as they are, in brackets.
+/// A clause in Italian.
 QString reasonOf(const std::exception& failure);
-/// The same of a failure of the library, by its kind and its words.
-QString reasonOf(FailureKind kind, const QString& words);
+/// The same of a failure of the library, by its kind.
+QString reasonOf(FailureKind kind);
+/// What the library or the database themselves said, for who looks after them. May be empty.
+QString wordsOf(const std::exception& failure);
 
 /// What an operator calls the event of a field.
 QString spokenEvent(const QString& event);

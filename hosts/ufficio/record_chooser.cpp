@@ -49,7 +49,7 @@ void RecordChooser::show(std::vector<Found> found, int most) {
     item->setToolTip(item->text());
   }
   if (more) {
-    more_->setText(QString("Sono i primi %1: scrivere altro per trovare gli altri.").arg(most));
+    more_->setText(QString("Sono solo i primi %1: scrivere un testo più lungo per restringere la ricerca.").arg(most));
   } else {
     more_->setText(found_.empty() ? "Nessun record trovato." : "");
   }

@@ -92,7 +92,7 @@ bool RecordDesk::save() {
     tools_.showState();
     return false;
   }
-  editing_ = false;
+  endEditing();
   const bool other = key != screen()->key();
   RecordChooser& chooser = tools_.chooser;
   Notice& notice = tools_.notice;
@@ -105,19 +105,21 @@ bool RecordDesk::save() {
     find();
   }
   const QString trouble = notice.text();  // with showing what was stored
+  const QString words = notice.words();
   if (trouble.isEmpty()) {
     notice.tell("Il record è stato salvato.");
   } else {
-    notice.warn("Il record è stato salvato. " + trouble);
+    notice.warn("Il record è stato salvato. " + trouble, words);
   }
   tools_.showState();
   return true;
 }
 
 bool RecordDesk::cancel() {
-  if (!editing_ || !leave()) return false;
-  if (!isNew()) return load(screen()->key());
+  if (!editing_) return false;
   const Key before = shown_->before;
+  if (!leave()) return false;
+  if (!isNew() && !screen()->key().empty()) return load(screen()->key());
   forget();
   if (!before.empty()) load(before);
   find();
@@ -127,6 +129,7 @@ bool RecordDesk::cancel() {
 bool RecordDesk::leave() {
   if (!editing_) return true;
   tools_.field.leave();
+  bool givenUp = false;
   if (screen()->changed()) {
     switch (tools_.ask(shown_->record)) {
       case Unsaved::Save:
@@ -135,10 +138,13 @@ bool RecordDesk::leave() {
         backToField();
         return false;
       case Unsaved::Discard:
+        givenUp = true;
         break;
     }
   }
   endEditing();
+  // What was given up is not to stand there as if it were stored.
+  if (givenUp && (isNew() || !load(screen()->key()))) forget();
   tools_.showState();
   return true;
 }

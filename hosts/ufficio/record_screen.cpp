@@ -74,6 +74,14 @@ void RecordScreen::load(Store& store, const Key& key) {
   key_ = key;
 }
 
+void RecordScreen::forget() {
+  key_.clear();
+  for (BoundPanel& bound : panels_) {
+    bound.clear();
+    bound.panel().surface().Visible(false);
+  }
+}
+
 void RecordScreen::activate(Panel& panel) { callByName(panel, "Attiva", {}); }
 
 void RecordScreen::Attiva() {

@@ -71,7 +71,7 @@ class RecordScreen : public Screen {
   Reach removing() const override { return description_.adding; }
   void remove(Store& store) override;
   void removeRow(const Panel& panel) override;
-  void forget() override { key_.clear(); }
+  void forget() override;
 
  protected:
   /// A record's rows. StoreFailure if there are none, unless the operator can add some.

@@ -15,7 +15,7 @@ namespace {
 std::unique_ptr<ResultsView> makeResults(const ShownSite& site, ResultScreen& results) {
   return std::make_unique<ResultsView>(
       site.platform, site.store, results, [&notice = site.notice](const std::exception& failure) {
-        notice.warn(QString("Un record trovato non si può mostrare: %1.").arg(reasonOf(failure)));
+        notice.warn(QString("Un record trovato non si può mostrare: %1.").arg(reasonOf(failure)), wordsOf(failure));
       });
 }
 

@@ -16,7 +16,7 @@ constexpr std::int64_t kOtherFile = -1;
 constexpr int kStepsPerLook = 10'000;
 
 [[noreturn]] void fail(sqlite3* database, const std::string& path) {
-  const std::string words = database == nullptr ? "memoria esaurita" : sqlite3_errmsg(database);
+  const std::string words = database == nullptr ? "" : sqlite3_errmsg(database);
   switch (database == nullptr ? SQLITE_NOMEM : sqlite3_errcode(database)) {
     case SQLITE_CANTOPEN:
       throw StoreFailure("il database " + path + " non esiste o non si può aprire");
@@ -28,15 +28,20 @@ constexpr int kStepsPerLook = 10'000;
     case SQLITE_FULL:
       throw StoreFailure("il disco è pieno, o il database non può più crescere; liberare spazio e riprovare");
     case SQLITE_IOERR:
-      throw StoreFailure("il disco non legge o non scrive il database " + path + " (" + words + ")");
+      throw StoreFailure("il disco non legge o non scrive il database " + path, words);
     case SQLITE_READONLY:
       throw StoreFailure("il database " + path + " è di sola lettura");
     case SQLITE_CONSTRAINT:
-      throw StoreFailure("il database non accetta questi dati, per esempio un codice che esiste già (" + words + ")");
+      throw StoreFailure("il database non accetta questi dati, per esempio un codice che esiste già", words);
     case SQLITE_INTERRUPT:
       throw StoreFailure("la ricerca richiede troppo tempo; scrivere un testo più lungo");
+    case SQLITE_NOMEM:
+      throw StoreFailure("la memoria è esaurita");
+    case SQLITE_ERROR:
+    case SQLITE_CORRUPT:
+      throw StoreFailure("il database " + path + " non è quello dell'ufficio, o è danneggiato", words);
     default:
-      throw StoreFailure("il database risponde: " + words);
+      throw StoreFailure("il database non ha risposto; riprovare tra poco", words);
   }
 }
 
@@ -111,6 +116,7 @@ void Store::open() {
     fail(opened, path_);
   }
   database_ = std::move(database);
+  ++openings_;
   if (version_ == 0) othersWrote();
 }
 

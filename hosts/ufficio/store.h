@@ -27,6 +27,8 @@ class Store {
   /// Opens the file, if it is not open, and looks at it.
   void open();
   bool canOpen() noexcept;
+  /// How often the file was opened: more than once where it had gone, or another came into its place.
+  int openings() const { return openings_; }
   /// Whether another connection has written since this was asked last. False where the file cannot be read.
   bool othersWrote() noexcept;
 
@@ -65,6 +67,7 @@ class Store {
   void leaveWhatHasMoved();
 
   std::unique_ptr<sqlite3, Closing> database_;
+  int openings_ = 0;
   std::int64_t version_ = 0;  // of what the file held when othersWrote() was asked last
 };
 

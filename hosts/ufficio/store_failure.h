@@ -2,13 +2,22 @@
 #pragma once
 
 #include <stdexcept>
+#include <string>
+#include <utility>
 
 namespace qvn::ufficio {
 
 /// Its message is for the operator: in Italian, a clause that begins with a small letter and ends without a stop.
 class StoreFailure : public std::runtime_error {
  public:
-  using std::runtime_error::runtime_error;
+  explicit StoreFailure(const std::string& message, std::string words = {})
+      : std::runtime_error(message), words_(std::move(words)) {}
+
+  /// What the database itself said, for who looks after it. Often nothing.
+  const std::string& words() const { return words_; }
+
+ private:
+  std::string words_;
 };
 
 /// Where a row is no longer what was read.

@@ -11,7 +11,7 @@ Unsaved askInWindow(QWidget& parent, const QString& record) {
   box.setInformativeText(record);
   const QPushButton* const save = box.addButton("&Salva", QMessageBox::AcceptRole);
   const QPushButton* const discard = box.addButton("&Non salvare", QMessageBox::DestructiveRole);
-  QPushButton* const stay = box.addButton("&Annulla", QMessageBox::RejectRole);
+  QPushButton* const stay = box.addButton("&Continua a modificare", QMessageBox::RejectRole);
   box.setDefaultButton(stay);
   box.setEscapeButton(stay);
   box.exec();

@@ -17,7 +17,7 @@ enum class Unsaved : std::uint8_t {
 /// Asks the operator about the changes of the record of that text.
 using AskUnsaved = std::function<Unsaved(const QString& record)>;
 
-/// By a window before all others: "Salva", "Non salvare", "Annulla".
+/// By a window before all others: "Salva", "Non salvare", "Continua a modificare".
 Unsaved askInWindow(QWidget& parent, const QString& record);
 
 }  // namespace qvn::ufficio

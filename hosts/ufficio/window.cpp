@@ -205,7 +205,7 @@ void Window::tellFailure(const QString& panel, const QString& widget, const QStr
   const QWidget* const shown = parts_.pages->findChild<QWidget*>(panel);
   const QWidget* const field = shown == nullptr ? nullptr : shown->findChild<QWidget*>(widget);
   const QString name = field == nullptr ? widget : field->accessibleName();
-  parts_.notice->warn(QString("Campo «%1», %2: %3.").arg(name, spokenEvent(event), reasonOf(kind, message)));
+  parts_.notice->warn(QString("Campo «%1», %2: %3.").arg(name, spokenEvent(event), reasonOf(kind)), message);
 }
 
 }  // namespace qvn::ufficio

@@ -3,11 +3,14 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QTextBrowser>
+#include <QTextDocument>
 #include <QToolBar>
 #include <map>
+#include <memory>
 #include <set>
 
 #include "hosts/ufficio/help.h"
+#include "hosts/ufficio/italian.h"
 #include "platforms/qt/texts.h"
 #include "tests/ufficio/at_window.h"
 
@@ -112,6 +115,32 @@ TEST_F(OfficeCommands, TellByF1WhatTheScreenIsForAndAllKeys) {
   see();
   EXPECT_EQ(focused(), "TxtCodice") << "the work goes on where it was";
   EXPECT_TRUE(window().editing());
+}
+
+TEST_F(OfficeCommands, TellByF1OfTheScreenThatIsShown) {
+  for (const ufficio::ScreenClass& made : ufficio::screenClasses()) {
+    choose(made.name);
+    press(Qt::Key_F1);
+    ASSERT_NE(help(), nullptr) << made.name;
+    EXPECT_EQ(help()->windowTitle(), "Guida – " + qt::shown(made.title));
+    QTextDocument wanted;
+    wanted.setHtml(ufficio::helpOn(made.name));
+    EXPECT_TRUE(help()->findChild<QTextBrowser*>()->toPlainText().contains(wanted.toPlainText())) << made.name;
+    QTest::keyClick(help(), Qt::Key_Escape);
+    see();
+    QApplication::setActiveWindow(&window());
+    see();
+  }
+}
+
+TEST_F(OfficeCommands, AreItalianInQtsOwnMenusAndDialogsToo) {
+  const ufficio::ItalianDialogs italian;
+  EXPECT_EQ(QCoreApplication::translate("QPlatformTheme", "Cancel"), "Annulla");
+  const std::unique_ptr<QMenu> menu(window().findChild<QLineEdit*>("filtro")->createStandardContextMenu());
+  QString entries;
+  for (const QAction* entry : menu->actions()) entries += entry->text().remove('&') + '\n';
+  EXPECT_TRUE(entries.contains("Incolla")) << entries.toStdString();
+  EXPECT_FALSE(entries.contains("Paste")) << entries.toStdString();
 }
 
 TEST_F(OfficeCommands, TellOfEveryScreenSomethingElse) {

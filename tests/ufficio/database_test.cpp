@@ -1,4 +1,5 @@
 // The window on databases that are not as they should be.
+#include <QLabel>
 #include <csignal>
 #include <filesystem>
 #include <optional>
@@ -46,7 +47,9 @@ TEST(OfficeDatabase, ThatIsNoneIsTold) {
 TEST(OfficeDatabase, WithoutTablesIsTold) {
   const office_test::Folder folder;
   office_test::writeFile(folder.file("vuoto.db"), "");
-  EXPECT_THAT(noticeOn(folder.file("vuoto.db")), HasSubstr("I record non si possono cercare: il database risponde"));
+  EXPECT_THAT(noticeOn(folder.file("vuoto.db")),
+              testing::AllOf(HasSubstr("I record non si possono cercare: il database "),
+                             HasSubstr("vuoto.db non è quello dell'ufficio, o è danneggiato.")));
 }
 
 TEST(OfficeDatabase, ThatIsLockedIsToldAndLaterRead) {
@@ -176,8 +179,8 @@ TEST_F(OfficeLookups, ThatFailAreToldAndLeaveWhatWasTyped) {
   sample.write("ALTER TABLE TIPI_IVA RENAME TO ALTRA_TABELLA");
   edit();
   write("2");
-  EXPECT_THAT(notice().toStdString(),
-              HasSubstr("Campo «COD IVA», nuovo contenuto: una ricerca nel database non è riuscita ("));
+  EXPECT_EQ(notice(), "Campo «COD IVA», nuovo contenuto: una ricerca nel database non è riuscita; riprovare tra poco.");
+  EXPECT_THAT(window().findChild<QLabel*>("testo")->toolTip().toStdString(), HasSubstr("no such table"));
   EXPECT_EQ(field("txtCOD_IVA").text(), "2");
   sample.write("ALTER TABLE ALTRA_TABELLA RENAME TO TIPI_IVA");
   write("2");
@@ -191,12 +194,32 @@ TEST_F(OfficeLookups, FindTheDatabaseAgainThatTheyMissed) {
   // The office has it open, and the library has not yet.
   std::filesystem::rename(sample.file(), sample.beside("altrove.db"));
   write("2");
-  EXPECT_THAT(notice().toStdString(), HasSubstr("una ricerca nel database non è riuscita ("));
+  EXPECT_THAT(notice().toStdString(), HasSubstr(": una ricerca nel database non è riuscita; riprovare tra poco."));
   EXPECT_EQ(field("txtCOD_IVA").text(), "2");
   std::filesystem::rename(sample.beside("altrove.db"), sample.file());
   write("2");
   EXPECT_EQ(field("txtCOD_IVA").text(), "22");
   EXPECT_EQ(screen().panels().front()->surface().label("lblIVA").Caption(), "22");
+}
+
+TEST_F(OfficeLookups, ReadTheFileThatCameIntoThePlaceOfTheirs) {
+  choose("quote-polizze");
+  open("92/00000001");
+  edit();
+  press(Qt::Key_Return);
+  enter("agri");
+  const toolkit::Label& company = screen().panels().front()->surface().label("DESC_COMPAGNIA");
+  ASSERT_EQ(company.Caption(), "Assicurazioni del Grifone");
+  window().askBy([](const QString& /*record*/) { return ufficio::Unsaved::Discard; });
+  press(Qt::Key_Escape);
+  std::filesystem::rename(sample.file(), sample.beside("prima.db"));
+  std::filesystem::copy_file(sample.beside("prima.db"), sample.file());
+  sample.write("UPDATE COMPAGNIE SET DESC_COMPAGNIA = 'Altro nome' WHERE COD_COMP = 'AGRI'");
+  edit();
+  press(Qt::Key_Return);
+  enter("agri");
+  EXPECT_EQ(company.Caption(), "Altro nome");
+  press(Qt::Key_Escape);
 }
 
 }  // namespace

@@ -24,19 +24,6 @@ class FormsWatched final : public Watcher {
   void formUnloaded(std::string_view form) override { seen.push_back("unload " + std::string(form)); }
 };
 
-/// Counts what the mouse does.
-class MouseWatched final : public QObject {
- public:
-  MouseWatched() { qApp->installEventFilter(this); }
-  int pressed = 0;
-
- protected:
-  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
-    if (event->type() == QEvent::MouseButtonPress) ++pressed;
-    return false;
-  }
-};
-
 class OfficeNewParticipant : public AtWindow {
  public:
   std::string caption(std::string_view label, std::size_t panel) {
@@ -91,7 +78,6 @@ class OfficeNewParticipant : public AtWindow {
                                             "TxtPN_PROD_ALT", "TxtACC_PROD_ALT", "TxtAQ_PROD_ALT"};
   const std::vector<std::string> typedAmounts{"€ 75,56", "€ 3,63",  "€ 24,18", "€ 48,36", "€ 1,81",
                                               "€ 12,09", "€ 24,18", "€ 0,73",  "€ 36,27"};
-  MouseWatched mouse;
   FormsWatched forms;
 };
 
@@ -213,7 +199,6 @@ TEST_F(OfficeNewParticipant, GoesFromItsFirstDigitToTheStoredCommission) {
   EXPECT_EQ(amounts(), typedAmounts);
   EXPECT_EQ(caption("RIT_ACCONTO", 0), "€ 28,39");
   EXPECT_FALSE(screen().changed());
-  EXPECT_EQ(mouse.pressed, 0);
 }
 
 }  // namespace

@@ -1,5 +1,10 @@
 // Where a record cannot be stored, and where changes might be lost.
+#include <QAbstractButton>
+#include <QLabel>
+#include <QMessageBox>
+#include <QTimer>
 #include <QToolButton>
+#include <filesystem>
 
 #include "tests/ufficio/at_window.h"
 
@@ -215,8 +220,8 @@ TEST_F(OfficeSaving, TellsOfAHandlersFailureWithFieldAndReason) {
   enter("80");
   enter("0");
   enter("50");
-  EXPECT_THAT(notice().toStdString(), HasSubstr("Campo «IVA», tasto premuto: c'è una divisione per zero ("));
-  EXPECT_THAT(notice().toStdString(), HasSubstr("50 divided by a rate of 0"));
+  EXPECT_THAT(notice().toStdString(), HasSubstr("Campo «IVA», tasto premuto: c'è una divisione per zero."));
+  EXPECT_THAT(window().findChild<QLabel*>("testo")->toolTip().toStdString(), HasSubstr("50 divided by a rate of 0"));
 }
 
 TEST_F(OfficeSaving, StoresNothingWhereTheFieldCannotBeLeft) {
@@ -246,6 +251,120 @@ TEST_F(OfficeSaving, TellsThatItHasStoredWhatItCannotShow) {
             "Il record è stato salvato. Il record non si può mostrare: il record non c'è più: è stato eliminato da "
             "altri.");
   EXPECT_FALSE(window().editing());
+  EXPECT_FALSE(field("txtDescrizione").isEnabled());
+}
+
+TEST_F(OfficeSaving, ShowsWhatIsStoredWhereChangesWereGivenUpAndTheOtherRecordIsGone) {
+  change();
+  answer(Unsaved::Discard);
+  sample.write("DELETE FROM TIPI_IVA WHERE COD_IVA = 50");
+  EXPECT_FALSE(window().openRecord({.key = {std::int64_t{50}}, .text = "50"}));
+  EXPECT_EQ(asked, 1);
+  EXPECT_THAT(notice().toStdString(), HasSubstr("eliminato da altri"));
+  EXPECT_EQ(field("txtDescrizione").text(), "Aliquota ordinaria");
+  EXPECT_FALSE(window().editing());
+  EXPECT_EQ(window().windowTitle(), "22  Aliquota ordinaria[*] – Codici IVA – Ufficio");
+}
+
+TEST_F(OfficeSaving, ShowsNothingThatWasGivenUpWhereTheDatabaseIsGone) {
+  change();
+  answer(Unsaved::Discard);
+  std::filesystem::rename(sample.file(), sample.beside("altrove.db"));
+  press(Qt::Key_Escape);
+  EXPECT_EQ(asked, 1);
+  EXPECT_THAT(notice().toStdString(), HasSubstr("non esiste o non si può aprire"));
+  EXPECT_FALSE(window().editing());
+  EXPECT_FALSE(field("txtDescrizione").isVisible());
+  EXPECT_TRUE(screen().key().empty());
+  std::filesystem::rename(sample.beside("altrove.db"), sample.file());
+  press(Qt::Key_F5);
+  open("22  ");
+  EXPECT_TRUE(field("txtDescrizione").isVisible());
+  EXPECT_EQ(field("txtDescrizione").text(), "Aliquota ordinaria");
+}
+
+/// Escape, or Space on the button of that caption.
+void answerAt(QMessageBox& box, const QString& caption) {
+  if (caption.isEmpty()) return QTest::keyClick(&box, Qt::Key_Escape);
+  for (QAbstractButton* button : box.buttons()) {
+    if (button->text() == caption) return QTest::keyClick(button, Qt::Key_Space);
+  }
+  ADD_FAILURE() << "no button " << caption.toStdString();
+  box.reject();
+}
+
+/// The questions as the window itself asks them.
+class OfficeSavingQuestions : public OfficeSaving {
+ public:
+  OfficeSavingQuestions() {
+    window().askBy([this](const QString& record) { return ufficio::askInWindow(window(), record); });
+  }
+  /// Gives the changes up by Escape, and answers the question.
+  void answerBy(const QString& caption) {
+    QTimer::singleShot(0, [this, caption] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      EXPECT_EQ(box->informativeText(), "22  Aliquota ordinaria");
+      ++asked;
+      answerAt(*box, caption);
+    });
+    press(Qt::Key_Escape);
+    QApplication::setActiveWindow(&window());
+    see();
+    EXPECT_EQ(asked, 1);
+  }
+};
+
+TEST_F(OfficeSavingQuestions, GoBackToTheFieldByEscape) {
+  change();
+  answerBy({});
+  expectTypedStays();
+  EXPECT_EQ(sample.line(kCode22), kAsItWas);
+  window().askBy([](const QString& /*record*/) { return Unsaved::Discard; });
+}
+
+TEST_F(OfficeSavingQuestions, GoBackToTheFieldByTheirButton) {
+  change();
+  answerBy("&Continua a modificare");
+  expectTypedStays();
+}
+
+TEST_F(OfficeSavingQuestions, StoreByTheirButton) {
+  change();
+  answerBy("&Salva");
+  EXPECT_FALSE(window().editing());
+  EXPECT_EQ(sample.line(kCode22), "22|ALTRA|22|100");
+}
+
+TEST_F(OfficeSavingQuestions, GiveUpByTheirButton) {
+  change();
+  answerBy("&Non salvare");
+  EXPECT_FALSE(window().editing());
+  EXPECT_EQ(field("txtDescrizione").text(), "Aliquota ordinaria");
+  EXPECT_EQ(sample.line(kCode22), kAsItWas);
+}
+
+TEST_F(OfficeSavingQuestions, DeleteOnlyByTheirButton) {
+  open("22  ");
+  const auto removeBy = [this](const QString& caption) {
+    QTimer::singleShot(0, [this, caption] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      EXPECT_EQ(box->text(), "Eliminare il record «22  Aliquota ordinaria»?");
+      ++asked;
+      answerAt(*box, caption);
+    });
+    press(Qt::Key_F8);
+    QApplication::setActiveWindow(&window());
+    see();
+  };
+  removeBy({});
+  removeBy("&Annulla");
+  EXPECT_EQ(asked, 2);
+  EXPECT_EQ(sample.line(kCode22), kAsItWas);
+  removeBy("&Elimina");
+  EXPECT_EQ(asked, 3);
+  EXPECT_EQ(sample.rows(kCode22).size(), 0U);
 }
 
 class OfficeSavingPercents : public AtWindow {

@@ -1,6 +1,7 @@
 // The window itself: its size and colours, what it keeps, and another one beside it.
 #include <QLabel>
 #include <QSettings>
+#include <QSplitter>
 #include <algorithm>
 #include <cmath>
 #include <memory>
@@ -104,10 +105,16 @@ TEST_F(OfficeWindow, IsTheNextTimeAsItWasLeft) {
   QSettings settings(qt::shown(sample.beside("stato.ini")), QSettings::IniFormat);
   window().keepStateIn(settings);
   window().resize(780, 560);
+  auto* sides = window().findChild<QSplitter*>();
+  const QList<int> usual = sides->sizes();
+  sides->setSizes({usual.front() + 30, usual.back() - 30});
+  const QList<int> pulled = sides->sizes();
+  ASSERT_NE(pulled, usual);
   choose("rami");
   dark(true);
   startAgain(settings);
   EXPECT_EQ(window().size(), QSize(780, 560));
+  EXPECT_EQ(window().findChild<QSplitter*>()->sizes(), pulled);
   EXPECT_EQ(window().windowTitle(), "[*]Rami – Ufficio");
   EXPECT_EQ(window().findChild<QListWidget*>("schermate")->currentRow(), static_cast<int>(numberOf("rami")));
   EXPECT_TRUE(window().findChild<QAction*>("scuro")->isChecked());
