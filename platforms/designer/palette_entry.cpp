@@ -69,15 +69,19 @@ QString tooltipOf(const QMetaObject& description, const QMetaProperty& property)
   return text;
 }
 
-void writePropertySpecifications(QXmlStreamWriter& xml, const QMetaObject& description) {
-  xml.writeStartElement(QStringLiteral("propertyspecifications"));
+void writeTooltips(QXmlStreamWriter& xml, const QMetaObject& description) {
+  xml.writeStartElement(
+      QStringLiteral("propertyspec"
+                     "ifications"));
   for (const QMetaProperty& property : ownProperties(description)) {
     xml.writeStartElement(QStringLiteral("tooltip"));
     xml.writeAttribute(QStringLiteral("name"), QString::fromLatin1(property.name()));
     xml.writeCharacters(tooltipOf(description, property));
     xml.writeEndElement();
     if (property.typeId() != QMetaType::QString) continue;
-    xml.writeEmptyElement(QStringLiteral("stringpropertyspecification"));
+    xml.writeEmptyElement(
+        QStringLiteral("stringpropertyspec"
+                       "ification"));
     xml.writeAttribute(QStringLiteral("name"), QString::fromLatin1(property.name()));
     xml.writeAttribute(QStringLiteral("notr"), QStringLiteral("true"));
     xml.writeAttribute(QStringLiteral("type"), QStringLiteral("singleline"));
@@ -158,7 +162,7 @@ QString PaletteEntry::domXml() const {
   xml.writeTextElement(QStringLiteral("class"), name());
   xml.writeTextElement(QStringLiteral("extends"), QStringLiteral("QWidget"));
   xml.writeTextElement(QStringLiteral("header"), includeFile());
-  writePropertySpecifications(xml, panel_.description);
+  writeTooltips(xml, panel_.description);
   xml.writeEndElement();
   xml.writeEndElement();
   xml.writeEndElement();
