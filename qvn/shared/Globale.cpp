@@ -1,6 +1,9 @@
 #include "qvn/shared/Globale.h"
 
+#include <array>
+#include <cstddef>
 #include <map>
+#include <new>
 #include <typeindex>
 #include <utility>
 
@@ -18,8 +21,10 @@ struct Shared {
 };
 
 Shared& shared() {
-  // Stands to the end of the program: by then the platform that the objects of upper floors lie on may be gone.
-  static Shared& instance = *new Shared;
+  // Stands to the end of the program, never destroyed: by then the platform that the objects of upper floors lie on may
+  // be gone. In room of the library's own, which goes with the library where that is unloaded.
+  alignas(Shared) static std::array<std::byte, sizeof(Shared)> room;
+  static Shared& instance = *new (room.data()) Shared;
   return instance;
 }
 
