@@ -119,7 +119,8 @@ bool RecordDesk::cancel() {
   if (!editing_) return false;
   const Key before = shown_->before;
   if (!leave()) return false;
-  if (!isNew() && !screen()->key().empty()) return load(screen()->key());
+  // What stood there before stands there again.
+  if (!isNew() && !screen()->key().empty()) return true;
   forget();
   if (!before.empty()) load(before);
   find();
