@@ -5,9 +5,16 @@
 #include <string>
 
 #include "platforms/memory/utf8.h"
+#include "platforms/qt/application.h"
 
 namespace qvn::test {
 namespace {
+
+/// With an application, as Qt makes the keyboard that an event comes from, and keeps while it runs.
+class KeyEvents : public testing::Test {
+ protected:
+  KeyEvents() { qt::ensureApplication(qt::Display::Offscreen); }
+};
 
 std::string typed(int key, const QString& text, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
   std::string characters;
@@ -23,20 +30,20 @@ memory::KeyName named(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
   return keys.empty() ? memory::KeyName::Character : keys.front().name;
 }
 
-TEST(KeyEvents, TheKeypadsDecimalKeyTypesACommaOnEveryLayout) {
+TEST_F(KeyEvents, TheKeypadsDecimalKeyTypesACommaOnEveryLayout) {
   EXPECT_EQ(typed(Qt::Key_Period, ".", Qt::KeypadModifier), ",");
   EXPECT_EQ(typed(Qt::Key_Comma, ",", Qt::KeypadModifier), ",");
   EXPECT_EQ(typed(Qt::Key_Period, "."), ".");
   EXPECT_EQ(typed(Qt::Key_7, "7", Qt::KeypadModifier), "7");
 }
 
-TEST(KeyEvents, ComposedAndThirdLevelCharactersAreTyped) {
+TEST_F(KeyEvents, ComposedAndThirdLevelCharactersAreTyped) {
   EXPECT_EQ(typed(Qt::Key_Egrave, "è"), "è");
   EXPECT_EQ(typed(Qt::Key_E, "€", Qt::ControlModifier | Qt::AltModifier), "€");
   EXPECT_EQ(typed(0, QString::fromUcs4(U"\U0001F600")), "😀");
 }
 
-TEST(KeyEvents, ShortcutsAreNoKeys) {
+TEST_F(KeyEvents, ShortcutsAreNoKeys) {
   EXPECT_EQ(typed(Qt::Key_S, "\x13", Qt::ControlModifier), "");
   EXPECT_EQ(typed(Qt::Key_F, "f", Qt::AltModifier), "");
   EXPECT_EQ(typed(Qt::Key_Period, ".", Qt::KeypadModifier | Qt::ControlModifier), "");
@@ -44,7 +51,7 @@ TEST(KeyEvents, ShortcutsAreNoKeys) {
   EXPECT_TRUE(qt::keysOf(QKeyEvent(QEvent::KeyPress, Qt::Key_Shift, Qt::ShiftModifier)).empty());
 }
 
-TEST(KeyEvents, NamedKeys) {
+TEST_F(KeyEvents, NamedKeys) {
   EXPECT_EQ(named(Qt::Key_Return), memory::KeyName::Enter);
   EXPECT_EQ(named(Qt::Key_Enter, Qt::KeypadModifier), memory::KeyName::Enter);
   EXPECT_EQ(named(Qt::Key_Tab), memory::KeyName::Tab);
