@@ -1,5 +1,6 @@
 #include "hosts/ufficio/page.h"
 
+#include <QApplication>
 #include <QFontMetrics>
 #include <QLabel>
 #include <QScrollArea>
@@ -28,6 +29,31 @@ QWidget* makeHeads(qt::Platform& platform, toolkit::Surface& surface, std::span<
   return row;
 }
 
+/// Keeps in view what has the focus when a row is added, or when a notice or a remark below takes some of its room.
+class Page final : public QScrollArea {
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QScrollArea::resizeEvent(event);
+    showFocus();
+  }
+  bool event(QEvent* event) override {
+    const bool known = QScrollArea::event(event);
+    if (event->type() == QEvent::LayoutRequest) showFocus();
+    return known;
+  }
+
+ private:
+  void showFocus() const {
+    QWidget* const focus = QApplication::focusWidget();
+    if (focus != nullptr && isAncestorOf(focus)) bringIntoView(*focus);
+  }
+};
+
+void scrollTo(QScrollArea& page, const QWidget& widget) {
+  const QPoint centre = widget.mapTo(page.widget(), QPoint(widget.width() / 2, widget.height() / 2));
+  page.ensureVisible(centre.x(), centre.y(), (widget.width() + 1) / 2, (widget.height() + 1) / 2);
+}
+
 }  // namespace
 
 QWidget* makePage(qt::Platform& platform, const Screen& screen) {
@@ -38,7 +64,7 @@ QWidget* makePage(qt::Platform& platform, const Screen& screen) {
     layout->addWidget(makeHeads(platform, screen.panels().front()->surface(), screen.heads()), 0, Qt::AlignLeft);
   }
   layout->addStretch(1);
-  auto* page = new QScrollArea;
+  auto* page = new Page;
   page->setFrameStyle(QFrame::NoFrame);
   page->setWidgetResizable(true);
   page->setWidget(inside);
@@ -56,6 +82,17 @@ void placeAdded(qt::Platform& platform, QWidget& page, const Screen& screen) {
     if (widget.parentWidget() != &inside) layout.insertWidget(place, &widget, 0, Qt::AlignLeft);
     ++place;
   }
+}
+
+void bringIntoView(QWidget& field) {
+  QWidget* around = &field;
+  while (around != nullptr && qobject_cast<QScrollArea*>(around) == nullptr) around = around->parentWidget();
+  auto* page = qobject_cast<QScrollArea*>(around);
+  if (page == nullptr || !page->widget()->isAncestorOf(&field)) return;
+  QWidget* panel = &field;
+  while (panel->parentWidget() != page->widget()) panel = panel->parentWidget();
+  if (QApplication::mouseButtons() == Qt::NoButton) scrollTo(*page, *panel);
+  scrollTo(*page, field);
 }
 
 QWidget* placeOver(QWidget* page, QWidget* lines) {

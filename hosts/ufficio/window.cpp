@@ -3,7 +3,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
-#include <QScrollArea>
 #include <QSignalBlocker>
 #include <algorithm>
 
@@ -11,6 +10,7 @@
 #include "hosts/ufficio/appearance.h"
 #include "hosts/ufficio/enabled_commands.h"
 #include "hosts/ufficio/help.h"
+#include "hosts/ufficio/page.h"
 #include "hosts/ufficio/panel_steps.h"
 #include "hosts/ufficio/reasons.h"
 #include "hosts/ufficio/window_state.h"
@@ -53,7 +53,7 @@ Window::Window(qt::Platform& platform, Store& store, std::span<const ScreenClass
   connect(qApp, &QApplication::focusChanged, this, [this](QWidget* /*before*/, QWidget* now) {
     if (now == nullptr || !parts_.pages->isAncestorOf(now)) return;
     field_.goneTo(now);
-    if (auto* page = qobject_cast<QScrollArea*>(parts_.pages->currentWidget())) page->ensureWidgetVisible(now);
+    bringIntoView(*now);
   });
   showState();
 }
