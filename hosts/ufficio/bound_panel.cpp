@@ -56,6 +56,11 @@ void BoundPanel::clear() {
   removed_ = false;
 }
 
+void BoundPanel::forget() {
+  clear();
+  panel_->surface().Visible(false);
+}
+
 void BoundPanel::show(const Row& row, std::span<const Field> fields) {
   clear();
   for (const Field& field : fields) letByName(*panel_, field.property, shown(row.at(field.column), field.kind));

@@ -29,6 +29,8 @@ class BoundPanel {
   void show(const Row& row, std::span<const Field> fields);
   /// The panel shows no row; what stands in its fields stays there.
   void clear();
+  /// The panel shows no row and is not to be seen.
+  void forget();
 
   /// Marks the row as one to be erased. A change, if the table has it.
   void remove() { removed_ = true; }

@@ -9,8 +9,8 @@
 
 namespace qvn::ufficio {
 
-/// What a statement finds: ?1 is the pattern of Like that the filter gives, which has "\" as its escape, ?2 the most
-/// rows. Its first column is the record's text, the others its key.
+/// What a statement finds: ?1 is the filter, which holds() looks for, ?2 the most rows. Its first column is the
+/// record's text, the others its key.
 std::vector<Found> findBy(std::string_view statement, Store& store, std::string_view filter, int most);
 
 }  // namespace qvn::ufficio

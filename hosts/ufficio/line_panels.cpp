@@ -49,6 +49,10 @@ void LinePanels::show(std::vector<Row> lines, Row empty) {
   }
 }
 
+void LinePanels::forget() {
+  for (BoundPanel& bound : panels_) bound.forget();
+}
+
 void LinePanels::Attiva() {
   // Each takes the focus, and the first is to have it in the end.
   std::for_each(panels_.rbegin(), panels_.rend(), [](const BoundPanel& bound) {

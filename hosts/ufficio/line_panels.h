@@ -38,6 +38,8 @@ class LinePanels {
 
   /// Shows lines and behind them empty ones like `empty`, all of them numbered by their place, in frozen panels.
   void show(std::vector<Row> lines, Row empty);
+  /// Shows no lines.
+  void forget();
   void Attiva();
   void Disattiva();
   bool changed() const;

@@ -50,8 +50,7 @@ std::vector<Row> RecordScreen::read(Store& store, const Key& key) const {
   if (!description_.order.empty()) sql.append(" ORDER BY ").append(description_.order);
   if (description_.panels != kAllRows) sql.append(" LIMIT ").append(std::to_string(description_.panels + 1));
   std::vector<Row> rows = store.rows(sql, key);
-  if (rows.empty() && description_.adding != Reach::Row)
-    throw StoreFailure("il record non c'è più: è stato eliminato da altri");
+  if (rows.empty() && description_.adding != Reach::Row) throw RecordGone();
   if (description_.panels != kAllRows && rows.size() > panels_.size()) {
     throw StoreFailure("il record ha più righe di quante la schermata ne mostra");
   }
@@ -76,10 +75,7 @@ void RecordScreen::load(Store& store, const Key& key) {
 
 void RecordScreen::forget() {
   key_.clear();
-  for (BoundPanel& bound : panels_) {
-    bound.clear();
-    bound.panel().surface().Visible(false);
-  }
+  for (BoundPanel& bound : panels_) bound.forget();
 }
 
 void RecordScreen::activate(Panel& panel) { callByName(panel, "Attiva", {}); }

@@ -42,7 +42,7 @@ std::vector<Found> ResultScreen::find(Store& store, std::string_view filter, int
 
 Row ResultScreen::read(Store& store, const Key& key) const {
   std::vector<Row> rows = store.rows(std::string(description_.read), key);
-  if (rows.empty()) throw StoreFailure("il record non c'è più: è stato eliminato da altri");
+  if (rows.empty()) throw RecordGone();
   return std::move(rows.front());
 }
 

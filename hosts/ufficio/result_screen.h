@@ -45,6 +45,8 @@ class ResultScreen : public Screen {
   void Disattiva() override {}
   bool changed() const override { return false; }
   Key save(Store& /*store*/) override { return key(); }
+  /// Marks none. What was found stays.
+  void forget() override { marked_.reset(); }
 
   /// Takes what was found in the place of what was found before. The marked record stays so if it is among it.
   void take(std::span<const Found> found);

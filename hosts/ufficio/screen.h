@@ -62,7 +62,8 @@ class Screen {
   /// What is to be told about the panels as they stand, on one line below them; mostly nothing. Never fails.
   virtual std::string remark() const { return {}; }
 
-  /// The records whose text holds the filter, without regard to case, at most so many; all of them for an empty filter.
+  /// The records whose text holds the filter, without regard to the case of any
+  /// letter, at most so many; all of them for an empty filter.
   virtual std::vector<Found> find(Store& store, std::string_view filter, int most) const = 0;
 
   /// Shows a record and freezes the panels. Reads first: where that fails, the screen stays as it was. Where showing
@@ -95,8 +96,8 @@ class Screen {
   virtual void remove(Store& /*store*/) {}
   virtual void removeRow(const Panel& /*panel*/) {}
 
-  /// Shows no record.
-  virtual void forget() {}
+  /// Shows no record: nothing of it is to be seen in the panels. Of results, which stay, none is marked.
+  virtual void forget() = 0;
 };
 
 /// What a screen is made with. Container and settings must outlive it.

@@ -59,6 +59,7 @@ void ShownScreen::placeLoaded(qt::Platform& platform) {
 
 void ShownScreen::forget() {
   screen->forget();
+  if (lines != nullptr) lines->renew();
   record.clear();
   before.clear();
 }

@@ -3,6 +3,8 @@
 #include <chrono>
 #include <utility>
 
+#include "hosts/ufficio/text_search.h"
+
 namespace qvn::ufficio {
 
 namespace {
@@ -112,6 +114,7 @@ void Store::open() {
   if (result != SQLITE_OK) fail(opened, path_);
   sqlite3_busy_timeout(opened, kBusyMilliseconds);
   sqlite3_db_config(opened, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+  if (addHolds(*opened) != SQLITE_OK) fail(opened, path_);
   if (sqlite3_exec(opened, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr) != SQLITE_OK) {
     fail(opened, path_);
   }

@@ -32,7 +32,7 @@ class Store {
   /// Whether another connection has written since this was asked last. False where the file cannot be read.
   bool othersWrote() noexcept;
 
-  /// The rows that a statement gives, its parameters ?1, ?2, … bound in their order.
+  /// The rows that a statement gives, its parameters ?1, ?2, … bound in their order. holds() of text_search.h is known.
   std::vector<Row> rows(const std::string& sql, std::span<const Value> parameters = {});
   bool hasTable(std::string_view name);
   /// Runs a statement that gives no rows; how many rows it has changed.
@@ -62,10 +62,10 @@ class Store {
   Statement prepared(const std::string& sql, std::span<const Value> parameters);
   bool step(sqlite3_stmt& statement);
 
-  std::string path_;
   /// Closes a file that is no longer in its place, between two transactions.
   void leaveWhatHasMoved();
 
+  std::string path_;
   std::unique_ptr<sqlite3, Closing> database_;
   int openings_ = 0;
   std::int64_t version_ = 0;  // of what the file held when othersWrote() was asked last

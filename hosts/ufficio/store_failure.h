@@ -13,7 +13,7 @@ class StoreFailure : public std::runtime_error {
   explicit StoreFailure(const std::string& message, std::string words = {})
       : std::runtime_error(message), words_(std::move(words)) {}
 
-  /// What the database itself said, for who looks after it. Often nothing.
+  /// What the database or the file system itself said, for who looks after it. Often nothing.
   const std::string& words() const { return words_; }
 
  private:
@@ -24,6 +24,12 @@ class StoreFailure : public std::runtime_error {
 class ChangedByOthers : public StoreFailure {
  public:
   ChangedByOthers() : StoreFailure("nel frattempo il record è stato modificato o eliminato da altri") {}
+};
+
+/// Where there is no record of the key any more.
+class RecordGone : public StoreFailure {
+ public:
+  RecordGone() : StoreFailure("il record non c'è più: è stato eliminato da altri") {}
 };
 
 }  // namespace qvn::ufficio

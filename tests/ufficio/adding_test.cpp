@@ -136,6 +136,14 @@ TEST_F(OfficeAdding, DeletesARecordOnlyWhenAsked) {
                                    [](const auto& found) { return found.text.starts_with("81"); }));
 }
 
+TEST_F(OfficeAdding, ShowsTheRecordBehindTheOneThatIsDeletedAndAtTheEndTheOneBefore) {
+  ASSERT_TRUE(window().openRecord({.key = {std::int64_t{81}}, .text = "81"}));
+  remove(true);
+  EXPECT_EQ(field("TxtCodice").text(), "99");
+  remove(true);
+  EXPECT_EQ(field("TxtCodice").text(), "80");
+}
+
 TEST_F(OfficeAdding, DeletesNoRecordThatAnotherHasChanged) {
   open("81  ");
   sample.write("UPDATE TIPI_IVA SET Deb_Dec = 7 WHERE COD_IVA = 81");
@@ -175,6 +183,25 @@ TEST_F(OfficeAdding, TakesAParticipantAwayWhenThePolicyIsStored) {
   EXPECT_EQ(notice(), "Il record è stato salvato.");
   EXPECT_EQ(quotas(), "RCED500");
   EXPECT_EQ(field("TxtCOD_COMP", 0).text(), "RCED");
+}
+
+TEST_F(OfficeAdding, TakesAParticipantAwayThatIsNotStoredYet) {
+  const std::string before = sample.everything();
+  choose("quote-polizze");
+  open("92/00000001");
+  add();
+  write("100");
+  remove(true);
+  EXPECT_FALSE(field("TxtQUOTA", 2).isVisible());
+  EXPECT_FALSE(window().isWindowModified());
+  EXPECT_EQ(remark(), "Somma delle quote: 1000‰.");
+  go("TxtQUOTA", 0);
+  write("400");
+  save();
+  EXPECT_EQ(notice(), "Il record è stato salvato.");
+  EXPECT_EQ(quotas(), "COSIR400,RCED500");
+  sample.write("UPDATE QUOTE_POLIZZE SET QUOTA = 500 WHERE PROT = 1");
+  EXPECT_EQ(sample.everything(), before);
 }
 
 TEST_F(OfficeAdding, PutsAParticipantInThePlaceOfAllOthers) {

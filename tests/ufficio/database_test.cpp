@@ -23,6 +23,9 @@ std::string noticeOn(const std::string& file) {
     EXPECT_THAT(office.window->chooser().records(), IsEmpty());
     EXPECT_FALSE(office.window->edit());
     EXPECT_FALSE(office.window->notice().isEmpty());
+    for (const QLabel* label : office.window->chooser().findChildren<QLabel*>()) {
+      EXPECT_FALSE(label->isVisible()) << "nobody knows that there are none: " << label->text().toStdString();
+    }
   }
   return first;
 }

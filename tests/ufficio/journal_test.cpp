@@ -160,6 +160,21 @@ TEST_F(OfficeEntry, NeverWritesOverALineThatAnotherHasAdded) {
   EXPECT_EQ(sample.everything(), before);
 }
 
+TEST_F(OfficeEntry, StoresItsVatLineWhereNothingElseIsTyped) {
+  const std::string before = sample.everything();
+  open(QString::fromStdString(last() + "  "));
+  edit();
+  go("txtCOD_IVA", screen().panels().size() - 1);
+  enter("22");
+  enter("100");
+  EXPECT_TRUE(window().isWindowModified());
+  save();
+  EXPECT_EQ(notice(), "Il record è stato salvato.");
+  EXPECT_EQ(sample.line("SELECT * FROM MOVIMENTI_IVA"), last() + "|22|100|22");
+  sample.write("DROP TABLE MOVIMENTI_IVA");
+  EXPECT_EQ(sample.everything(), before);
+}
+
 TEST_F(OfficeEntry, TellsOfAnAmountThatIsNone) {
   open(QString::fromStdString(last() + "  "));
   edit();

@@ -5,6 +5,7 @@
 
 #include "platforms/operator.h"
 #include "platforms/qt/texts.h"
+#include "qvn/shared/Globale.h"
 #include "tests/ufficio/at_window.h"
 
 namespace qvn::test {
@@ -78,13 +79,31 @@ class OfficeNewParticipant : public AtWindow {
                                             "TxtPN_PROD_ALT", "TxtACC_PROD_ALT", "TxtAQ_PROD_ALT"};
   const std::vector<std::string> typedAmounts{"€ 75,56", "€ 3,63",  "€ 24,18", "€ 48,36", "€ 1,81",
                                               "€ 12,09", "€ 24,18", "€ 0,73",  "€ 36,27"};
+  /// Of the one connection: whether it is open, and on what.
+  static std::string connection() {
+    return std::to_string(Globale::DB().State()).append(" ").append(Globale::DB().ConnectionString());
+  }
+  void expectFrozen(const std::vector<const char*>& names) {
+    for (const char* name : names) {
+      const toolkit::Widget& widget = screen().panels().front()->surface().widget(name);
+      EXPECT_FALSE(office.platform.widgetOf(widget)->isEnabled()) << name;
+    }
+  }
   FormsWatched forms;
 };
 
 TEST_F(OfficeNewParticipant, GoesFromItsFirstDigitToTheStoredCommission) {
+  int asked = 0;
+  const Subscription asking = Globale::Eventi()->MancaDB.subscribe([&asked] { ++asked; });
+  EXPECT_EQ(connection(), "0 ") << "closed, and nothing is looked up yet";
+  EXPECT_EQ(asked, 0);
+
+  // On the way a panel looks up the first time, and the library asks the office for the database.
   neighbouringScreen(Qt::Key_Down);
   neighbouringScreen(Qt::Key_Down);
   open("92/00000001");
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(connection(), "1 sqlite:" + sample.file());
   ASSERT_EQ(remark(), "Somma delle quote: 1000‰.");
 
   // A participant more: its quota has the focus.
@@ -133,10 +152,8 @@ TEST_F(OfficeNewParticipant, GoesFromItsFirstDigitToTheStoredCommission) {
   EXPECT_EQ(remark(), "Somma delle quote: 1000‰.");
   save();
   EXPECT_EQ(notice(), "Il record è stato salvato.");
-  for (const char* name :
-       {"TxtQUOTA", "TxtCOD_COMP", "TxtCOD_PROD", "TxtCOD_PROD_ALT", "TxtN_POLIZZA", "TxtD_RIMESSA"}) {
-    EXPECT_FALSE(field(name, 0).isEnabled()) << name;
-  }
+  expectFrozen(
+      {"TxtQUOTA", "TxtCOD_COMP", "TxtCOD_PROD", "TxtCOD_PROD_ALT", "TxtN_POLIZZA", "TxtD_RIMESSA", "ChkDELEGATARIA"});
   EXPECT_EQ(sample.line("SELECT * FROM QUOTE_POLIZZE WHERE PROT = 1 AND COD_COMP = 'AGRI'"),
             "1|AGRI|NARDE009|ORSRO047|0|250|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|0|83/00000157|2026-11-15");
   EXPECT_EQ(sample.line("SELECT group_concat(COD_COMP || QUOTA) FROM QUOTE_POLIZZE WHERE PROT = 1"),
@@ -183,7 +200,9 @@ TEST_F(OfficeNewParticipant, GoesFromItsFirstDigitToTheStoredCommission) {
 
   save();
   EXPECT_EQ(notice(), "Il record è stato salvato.");
-  for (const char* name : kAmountFields) EXPECT_FALSE(field(name).isEnabled()) << name;
+  expectFrozen({kAmountFields.begin(), kAmountFields.end()});
+  expectFrozen({"TxtP_PN_UFF", "TxtP_ACC_UFF", "TxtP_AQ_UFF", "TxtP_PN_PROD", "TxtP_ACC_PROD", "TxtP_AQ_PROD",
+                "TxtP_PN_PROD_ALT", "TxtP_ACC_PROD_ALT", "TxtP_AQ_PROD_ALT", "CmbCALCOLO_PROD", "CmbCALCOLO_PROD_ALT"});
   EXPECT_EQ(amounts(), typedAmounts) << "the values stay";
   EXPECT_EQ(sample.line("SELECT * FROM QUOTE_POLIZZE WHERE PROT = 1 AND COD_COMP = 'AGRI'"),
             "1|AGRI|NARDE009|ORSRO047|0|250|0|0|0|0|0|0|0|0|0|75.56|3.63|24.18|48.36|1.81|12.09|24.18|0.73|36.27|"
@@ -199,6 +218,7 @@ TEST_F(OfficeNewParticipant, GoesFromItsFirstDigitToTheStoredCommission) {
   EXPECT_EQ(amounts(), typedAmounts);
   EXPECT_EQ(caption("RIT_ACCONTO", 0), "€ 28,39");
   EXPECT_FALSE(screen().changed());
+  EXPECT_EQ(asked, 1) << "the connection has been open ever since";
 }
 
 }  // namespace

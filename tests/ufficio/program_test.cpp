@@ -32,6 +32,13 @@ office_test::Answer ufficio(std::string_view arguments, std::string_view before 
           office_test::contentsOf(answers.file("output")), office_test::contentsOf(answers.file("errors"))};
 }
 
+/// Runs it on a display that is not seen, with an operator who presses these keys.
+office_test::Answer operated(std::string_view arguments, std::string_view keys) {
+  std::string before = "timeout 20 env QT_QPA_PLATFORM=offscreen QT_PLUGIN_PATH=" + inQuotes(QVN_PLUGINS);
+  before.append(" QT_QPA_GENERIC_PLUGINS=").append(inQuotes(std::string("qvn-keys:").append(keys)));
+  return ufficio(arguments, before);
+}
+
 std::string picturing(const std::string& database, const std::string& folder) {
   return inQuotes(database).append(" --picture ").append(inQuotes(folder));
 }
@@ -68,6 +75,21 @@ TEST(OfficeProgram, PicturesInDarkColours) {
   const QImage picture(QString::fromStdString(folder.file("figure/iva.png")), "PNG");
   ASSERT_FALSE(picture.isNull());
   EXPECT_LT(qGray(picture.pixel(picture.width() - 3, picture.height() / 2)), 90);
+}
+
+TEST(OfficeProgram, FindsTheNextTimeWhatItKeptInTheFileThatItIsTold) {
+  const office_test::Folder folder;
+  ASSERT_EQ(office_test::campione(inQuotes(folder.file("ufficio.db"))).status, 0);
+  const std::string state = folder.file("stato.ini");
+  const std::string arguments = inQuotes(folder.file("ufficio.db")) + " --state " + inQuotes(state);
+  const auto kept = [&](const std::string& options, std::string_view keys) {
+    const office_test::Answer run = operated(arguments + options, keys);
+    EXPECT_EQ(run.status, 0) << run.errors;
+    return office_test::contentsOf(state);
+  };
+  EXPECT_THAT(kept("", "F6 End Ctrl+Shift+D Ctrl+Q"), HasSubstr("schermata=rami\nscuro=true\n"));
+  EXPECT_THAT(kept("", "Ctrl+Q"), HasSubstr("schermata=rami\nscuro=true\n")) << "it began as it had ended";
+  EXPECT_THAT(kept(" --screen iva", "Ctrl+Shift+D Ctrl+Q"), HasSubstr("schermata=iva\nscuro=false\n"));
 }
 
 TEST(OfficeProgram, TellsOfScreensWithoutRecordsToPicture) {

@@ -4,6 +4,7 @@
 #include <QMessageBox>
 #include <QTimer>
 #include <QToolButton>
+#include <algorithm>
 #include <filesystem>
 
 #include "tests/ufficio/at_window.h"
@@ -157,6 +158,21 @@ TEST_F(OfficeSaving, AsksBeforeAnotherRecord) {
   EXPECT_EQ(sample.line(kCode22), kAsItWas);
 }
 
+TEST_F(OfficeSaving, GoesBackInTheListWhereTheOperatorStays) {
+  change();
+  answer(Unsaved::Stay);
+  window().findChild<QLineEdit*>("filtro")->clear();
+  auto& list = *window().findChild<QListWidget*>("record");
+  const int its = list.currentRow();
+  ASSERT_EQ(list.item(its)->text(), "22  Aliquota ordinaria");
+  list.setFocus();
+  press(Qt::Key_Down);
+  press(Qt::Key_Return);
+  EXPECT_EQ(asked, 1);
+  EXPECT_EQ(list.currentRow(), its);
+  expectTypedStays();
+}
+
 TEST_F(OfficeSaving, AsksBeforeAnotherScreenAndGoesBackInTheList) {
   change();
   answer(Unsaved::Stay);
@@ -283,9 +299,12 @@ TEST_F(OfficeSaving, ShowsNothingThatWasGivenUpWhereTheDatabaseIsGone) {
   EXPECT_EQ(field("txtDescrizione").text(), "Aliquota ordinaria");
 }
 
-/// Escape, or Space on the button of that caption.
+constexpr const char* kEnter = "Enter";
+
+/// Escape, Enter, or Space on the button of that caption.
 void answerAt(QMessageBox& box, const QString& caption) {
   if (caption.isEmpty()) return QTest::keyClick(&box, Qt::Key_Escape);
+  if (caption == kEnter) return QTest::keyClick(&box, Qt::Key_Return);
   for (QAbstractButton* button : box.buttons()) {
     if (button->text() == caption) return QTest::keyClick(button, Qt::Key_Space);
   }
@@ -321,6 +340,12 @@ TEST_F(OfficeSavingQuestions, GoBackToTheFieldByEscape) {
   expectTypedStays();
   EXPECT_EQ(sample.line(kCode22), kAsItWas);
   window().askBy([](const QString& /*record*/) { return Unsaved::Discard; });
+}
+
+TEST_F(OfficeSavingQuestions, GoBackToTheFieldByEnter) {
+  change();
+  answerBy(kEnter);
+  expectTypedStays();
 }
 
 TEST_F(OfficeSavingQuestions, GoBackToTheFieldByTheirButton) {
@@ -359,13 +384,78 @@ TEST_F(OfficeSavingQuestions, DeleteOnlyByTheirButton) {
     see();
   };
   removeBy({});
+  removeBy(kEnter);
   removeBy("&Annulla");
-  EXPECT_EQ(asked, 2);
+  EXPECT_EQ(asked, 3);
   EXPECT_EQ(sample.line(kCode22), kAsItWas);
   removeBy("&Elimina");
-  EXPECT_EQ(asked, 3);
+  EXPECT_EQ(asked, 4);
   EXPECT_EQ(sample.rows(kCode22).size(), 0U);
 }
+
+/// The letters that the buttons of a question are pressed by.
+std::vector<QChar> lettersOf(const QMessageBox& box) {
+  std::vector<QChar> letters;
+  for (const QAbstractButton* button : box.buttons()) {
+    const auto place = button->text().indexOf('&');
+    EXPECT_GE(place, 0) << button->text().toStdString();
+    letters.push_back(button->text().at(place + 1));
+  }
+  std::ranges::sort(letters);
+  return letters;
+}
+
+struct ByLetter {
+  Qt::Key key;
+  const char* letters;  ///< of all the question's buttons
+  bool editing;         ///< afterwards
+  const char* stored;
+};
+
+class OfficeSavingLetters : public OfficeSavingQuestions, public testing::WithParamInterface<ByLetter> {
+ public:
+  void pressLetter(bool atQuestionOfRemoval) {
+    QTimer::singleShot(0, [this] {
+      auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+      ASSERT_NE(box, nullptr);
+      QString letters;
+      for (const QChar letter : lettersOf(*box)) letters += letter;
+      EXPECT_EQ(letters, GetParam().letters);
+      ++asked;
+      QApplication::setActiveWindow(box);
+      QTest::keyClick(box, GetParam().key, Qt::AltModifier);
+      if (QTest::qWaitFor([box] { return !box->isVisible(); })) return;
+      ADD_FAILURE() << "the letter does nothing";
+      box->reject();
+    });
+    press(atQuestionOfRemoval ? Qt::Key_F8 : Qt::Key_Escape);
+    QApplication::setActiveWindow(&window());
+    see();
+    EXPECT_EQ(asked, 1);
+  }
+};
+
+TEST_P(OfficeSavingLetters, PressTheButtonsOfTheQuestions) {
+  const bool removal = std::string_view(GetParam().letters) == "AE";
+  if (removal) {
+    open("22  ");
+  } else {
+    change();
+  }
+  pressLetter(removal);
+  EXPECT_EQ(window().editing(), GetParam().editing);
+  EXPECT_EQ(sample.line(kCode22), GetParam().stored);
+}
+
+INSTANTIATE_TEST_SUITE_P(Questions, OfficeSavingLetters,
+                         testing::Values(ByLetter{Qt::Key_S, "CNS", false, "22|ALTRA|22|100"},
+                                         ByLetter{Qt::Key_N, "CNS", false, kAsItWas},
+                                         ByLetter{Qt::Key_C, "CNS", true, kAsItWas},
+                                         ByLetter{Qt::Key_A, "AE", false, kAsItWas},
+                                         ByLetter{Qt::Key_E, "AE", false, "0 rows"}),
+                         [](const auto& by) {
+                           return std::string(by.param.letters).append("_").append(1, static_cast<char>(by.param.key));
+                         });
 
 class OfficeSavingPercents : public AtWindow {
  public:

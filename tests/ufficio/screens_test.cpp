@@ -1,8 +1,10 @@
 // What holds of every screen of the register.
 #include <QLabel>
 #include <QScrollBar>
+#include <filesystem>
 #include <ostream>
 
+#include "platforms/qt/texts.h"
 #include "qvn/shared/conversions.h"
 #include "qvn/shared/database_numbers.h"
 #include "tests/ufficio/at_window.h"
@@ -14,6 +16,7 @@ inline std::ostream& operator<<(std::ostream& out, const ScreenClass& made) { re
 namespace qvn::test {
 namespace {
 
+using testing::IsEmpty;
 using ufficio::Found;
 using ufficio::ScreenClass;
 
@@ -27,6 +30,34 @@ class OfficeScreens : public testing::TestWithParam<ScreenClass> {
     return std::ranges::any_of(window().screen()->panels(), [&](Panel* panel) {
       return office.platform.widgetOf(panel->surface()).isAncestorOf(&widget);
     });
+  }
+  /// What the fields, or the labels, of the panels show that are to be seen, from top to bottom.
+  template <class Widget>
+  std::vector<std::string> shownIn() {
+    QApplication::processEvents();
+    std::vector<std::string> texts;
+    for (const Panel* panel : window().screen()->panels()) {
+      for (const toolkit::Widget* widget : panel->surface().widgets()) {
+        const auto* const its = qobject_cast<const Widget*>(office.platform.widgetOf(*widget));
+        if (its != nullptr && its->isVisible()) texts.push_back(qt::utf8(its->text()));
+      }
+    }
+    return texts;
+  }
+  /// Types into the field that has the focus.
+  static void typeSomething() {
+    AtWindow::press(Qt::Key_A, Qt::ControlModifier);
+    AtWindow::write("7");
+  }
+  /// Nothing of the record is to be seen; results stay, with none marked.
+  void expectForgotten() {
+    EXPECT_TRUE(window().screen()->key().empty());
+    EXPECT_FALSE(window().screen()->changed());
+    if (window().screen()->results() != nullptr) return;
+    EXPECT_THAT(shownIn<QLineEdit>(), IsEmpty());
+    EXPECT_THAT(shownIn<QLabel>(), IsEmpty());
+    ufficio::ResultScreen* const lines = window().screen()->lines();
+    EXPECT_TRUE(lines == nullptr || lines->count() == 0);
   }
   std::vector<Found> records() {
     const auto found = window().chooser().records();
@@ -71,6 +102,40 @@ TEST_P(OfficeScreens, ChangesNothingByOpeningLeavingAndStoring) {
     EXPECT_TRUE(window().save()) << window().notice().toStdString();
   }
   EXPECT_EQ(sample.everything(), before);
+}
+
+TEST_P(OfficeScreens, ShowsNothingOfARecordThatItForgets) {
+  ASSERT_TRUE(window().openRecord(records().front()));
+  const auto fields = shownIn<QLineEdit>();
+  const auto labels = shownIn<QLabel>();
+  ASSERT_FALSE(fields.empty() && labels.empty());
+  window().screen()->forget();
+  expectForgotten();
+  ASSERT_TRUE(window().openRecord(records().front()));
+  EXPECT_EQ(shownIn<QLineEdit>(), fields);
+  EXPECT_EQ(shownIn<QLabel>(), labels);
+}
+
+TEST_P(OfficeScreens, ShowsNothingThatWasGivenUpWhereTheDatabaseIsGone) {
+  ASSERT_TRUE(window().openRecord(records().front()));
+  if (!window().screen()->editable()) return;
+  const auto before = shownIn<QLineEdit>();
+  ASSERT_TRUE(window().edit());
+  typeSomething();
+  ASSERT_TRUE(window().screen()->changed());
+  window().askBy([](const QString& /*record*/) { return ufficio::Unsaved::Discard; });
+  std::filesystem::rename(sample.file(), sample.beside("altrove.db"));
+  EXPECT_TRUE(window().cancel());
+  EXPECT_FALSE(window().editing());
+  expectForgotten();
+  if (ufficio::ResultScreen* const lines = window().screen()->lines()) {
+    EXPECT_FALSE(lines->anyPanel().surface().Visible());
+  }
+  EXPECT_EQ(window().windowTitle(), QString("[*]%1 – Ufficio").arg(qt::shown(GetParam().title)));
+  std::filesystem::rename(sample.beside("altrove.db"), sample.file());
+  ASSERT_TRUE(window().renew());
+  ASSERT_TRUE(window().openRecord(records().front()));
+  EXPECT_EQ(shownIn<QLineEdit>(), before);
 }
 
 TEST_P(OfficeScreens, ClipsNoTextOfTheWindow) {

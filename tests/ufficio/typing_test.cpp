@@ -20,6 +20,21 @@ TEST_F(OfficeTyping, FindsRecordsByWhatTheyHold) {
   EXPECT_EQ(window().chooser().records().size(), 0U);
 }
 
+TEST_F(OfficeTyping, FindsAccentedLettersInCapitalsAndInSmallOnes) {
+  sample.write("UPDATE TIPI_IVA SET DESCRIZIONE = 'Attività 50% PIÙ_ALTA' WHERE COD_IVA = 22");
+  for (const char* filter : {"attività", "ATTIVITÀ", "più", "PIÙ", "pIù_a", "0% p"}) {
+    press(Qt::Key_F, Qt::ControlModifier);
+    write(filter);
+    ASSERT_EQ(window().chooser().records().size(), 1U) << filter;
+    EXPECT_EQ(window().chooser().records().front().text, "22  Attività 50% PIÙ_ALTA");
+  }
+  for (const char* filter : {"attivita", "piu", "più alta", "tt%", "\\"}) {
+    press(Qt::Key_F, Qt::ControlModifier);
+    write(filter);
+    EXPECT_EQ(window().chooser().records().size(), 0U) << filter;
+  }
+}
+
 TEST_F(OfficeTyping, GoesDownFromTheFilterToTheRecords) {
   press(Qt::Key_F, Qt::ControlModifier);
   write("ordinaria");

@@ -1,11 +1,14 @@
 // The window itself: its size and colours, what it keeps, and another one beside it.
+#include <QComboBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QSettings>
 #include <QSplitter>
 #include <algorithm>
-#include <cmath>
 #include <memory>
+#include <utility>
 
+#include "platforms/qt/colours.h"
 #include "platforms/qt/texts.h"
 #include "tests/ufficio/at_window.h"
 
@@ -27,6 +30,13 @@ class OfficeWindow : public AtWindow {
     if (window().findChild<QAction*>("scuro")->isChecked() != on) {
       press(Qt::Key_D, Qt::ControlModifier | Qt::ShiftModifier);
     }
+  }
+  /// Whether it is one of a panel's fields, labels and buttons.
+  bool isInPanel(const QWidget& widget) {
+    return std::ranges::any_of(screen().panels(), [&](Panel* panel) {
+      return std::ranges::any_of(panel->surface().widgets(),
+                                 [&](const toolkit::Widget* its) { return office.platform.widgetOf(*its) == &widget; });
+    });
   }
   /// Closes the window and opens another, as the next start of the program does.
   void startAgain(QSettings& settings) {
@@ -54,18 +64,12 @@ TEST_F(OfficeWindow, FitsOnASmallScreen) {
   }
 }
 
-double lightness(const QColor& colour) {
-  const auto part = [](double value) {
-    return value <= 0.03928 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * part(colour.redF()) + 0.7152 * part(colour.greenF()) + 0.0722 * part(colour.blueF());
-}
-
-/// As the accessibility guidelines reckon it, from 1 to 21.
-double contrast(const QColor& text, const QColor& back) {
-  const double a = lightness(text);
-  const double b = lightness(back);
-  return (std::max(a, b) + 0.05) / (std::min(a, b) + 0.05);
+/// The roles of a widget's text and of what it stands on.
+std::pair<QPalette::ColorRole, QPalette::ColorRole> rolesOf(const QWidget& widget) {
+  if (qobject_cast<const QLineEdit*>(&widget) != nullptr) return {QPalette::Text, QPalette::Base};
+  if (qobject_cast<const QPushButton*>(&widget) != nullptr) return {QPalette::ButtonText, QPalette::Button};
+  if (qobject_cast<const QComboBox*>(&widget) != nullptr) return {QPalette::ButtonText, QPalette::Button};
+  return {QPalette::WindowText, QPalette::Window};
 }
 
 int meanGrey(const QImage& picture) {
@@ -77,34 +81,44 @@ int meanGrey(const QImage& picture) {
 }
 
 TEST_F(OfficeWindow, CanBeReadInLightAndInDarkColours) {
-  constexpr double kReadable = 4.5;
   for (const bool on : {false, true}) {
     dark(on);
-    for (const char* name : {"iva", "quote-polizze", "ricerca-polizze", "prima-nota"}) {
-      choose(name);
+    for (const ufficio::ScreenClass& made : ufficio::screenClasses()) {
+      choose(made.name);
       ASSERT_TRUE(window().openRecord(ufficio::Found(window().chooser().records().front())));
+      ASSERT_EQ(window().edit(), screen().editable());
       see();
       const int grey = meanGrey(window().grab().toImage());
-      EXPECT_TRUE(on ? grey < 90 : grey > 180) << name << ' ' << grey;
+      EXPECT_TRUE(on ? grey < 90 : grey > 180) << made.name << ' ' << grey;
+      int texts = 0;
       for (const QWidget* widget : window().findChildren<QWidget*>()) {
         if (!widget->isVisible()) continue;
+        const auto [text, back] = rolesOf(*widget);
+        // The window's own commands that cannot be given are pale.
+        const auto group = widget->isEnabled() || !isInPanel(*widget) ? QPalette::Active : QPalette::Disabled;
         const QPalette& palette = widget->palette();
-        EXPECT_GE(contrast(palette.color(QPalette::Active, QPalette::WindowText),
-                           palette.color(QPalette::Active, QPalette::Window)),
-                  kReadable)
-            << name << ' ' << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
+        EXPECT_GE(qt::contrast(palette.color(group, text), palette.color(group, back)), qt::kReadable)
+            << made.name << ' ' << widget->metaObject()->className() << ' ' << widget->objectName().toStdString();
+        texts += isInPanel(*widget) ? 1 : 0;
       }
-      const QPalette& list = window().findChild<QListWidget*>("record")->palette();
-      EXPECT_GE(contrast(list.color(QPalette::Text), list.color(QPalette::Base)), kReadable);
-      EXPECT_GE(contrast(list.color(QPalette::HighlightedText), list.color(QPalette::Highlight)), on ? kReadable : 3.0);
+      EXPECT_GE(texts, 4) << made.name;
+      ASSERT_TRUE(window().cancel() || !screen().editable());
     }
+    const QPalette& list = window().findChild<QListWidget*>("record")->palette();
+    EXPECT_GE(qt::contrast(list.color(QPalette::Text), list.color(QPalette::Base)), qt::kReadable);
+    // The light one is the desktop's own.
+    EXPECT_GE(qt::contrast(list.color(QPalette::HighlightedText), list.color(QPalette::Highlight)),
+              on ? qt::kReadable : 3.0);
   }
 }
 
 TEST_F(OfficeWindow, IsTheNextTimeAsItWasLeft) {
   QSettings settings(qt::shown(sample.beside("stato.ini")), QSettings::IniFormat);
+  const QPoint firstPlace = window().pos();
   window().keepStateIn(settings);
   window().resize(780, 560);
+  window().move(13, 27);
+  ASSERT_NE(window().pos(), firstPlace);
   auto* sides = window().findChild<QSplitter*>();
   const QList<int> usual = sides->sizes();
   sides->setSizes({usual.front() + 30, usual.back() - 30});
@@ -114,6 +128,7 @@ TEST_F(OfficeWindow, IsTheNextTimeAsItWasLeft) {
   dark(true);
   startAgain(settings);
   EXPECT_EQ(window().size(), QSize(780, 560));
+  EXPECT_EQ(window().pos(), QPoint(13, 27));
   EXPECT_EQ(window().findChild<QSplitter*>()->sizes(), pulled);
   EXPECT_EQ(window().windowTitle(), "[*]Rami – Ufficio");
   EXPECT_EQ(window().findChild<QListWidget*>("schermate")->currentRow(), static_cast<int>(numberOf("rami")));
@@ -205,6 +220,25 @@ TEST_F(OfficeTwoWindows, SeeEachOthersSavedRows) {
   ASSERT_TRUE(other.save());
   goTo(&window());
   EXPECT_EQ(field("txtDescrizione").text(), "TERZA");
+}
+
+TEST_F(OfficeTwoWindows, SeeAfterTheirOwnWorkWhatTheOtherSavedMeanwhile) {
+  openIn(window(), "22  ");
+  goTo(&window());
+  edit();
+  openIn(other, "50  ");
+  goTo(&other);
+  ASSERT_TRUE(other.edit());
+  press(Qt::Key_Return);
+  enter("altra");
+  ASSERT_TRUE(other.save());
+  goTo(&window());
+  EXPECT_TRUE(window().editing());
+  press(Qt::Key_Escape);
+  goTo(&other);
+  goTo(&window());
+  EXPECT_TRUE(
+      std::ranges::any_of(window().chooser().records(), [](const auto& found) { return found.text == "50  ALTRA"; }));
 }
 
 TEST_F(OfficeTwoWindows, NeverWriteOverEachOther) {

@@ -12,8 +12,7 @@ namespace qvn::ufficio::journal {
 namespace {
 
 [[noreturn]] void fail(const QSaveFile& file) {
-  throw StoreFailure("il file " + qt::utf8(file.fileName()) + " non si può scrivere (" + qt::utf8(file.errorString()) +
-                     ")");
+  throw StoreFailure("il file " + qt::utf8(file.fileName()) + " non si può scrivere", qt::utf8(file.errorString()));
 }
 
 /// False if it was stopped.

@@ -46,7 +46,7 @@ class AccountingPrints final : public RecordScreen {
   std::vector<Found> find(Store& store, std::string_view filter, int most) const override {
     return findBy(std::string("SELECT CODICE || '  ' || DESCRIZIONE AS TESTO, CODICE FROM ")
                       .append(source(store))
-                      .append(" WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY CODICE LIMIT ?2"),
+                      .append(" WHERE holds(TESTO, ?1) ORDER BY CODICE LIMIT ?2"),
                   store, filter, most);
   }
 
@@ -54,7 +54,7 @@ class AccountingPrints final : public RecordScreen {
   std::vector<Row> read(Store& store, const Key& key) const override {
     std::vector<Row> rows =
         store.rows(std::string("SELECT * FROM ").append(source(store)).append(" WHERE CODICE = ?1"), key);
-    if (rows.empty()) throw StoreFailure("il record non c'è più: è stato eliminato da altri");
+    if (rows.empty()) throw RecordGone();
     return rows;
   }
 

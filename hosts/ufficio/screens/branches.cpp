@@ -27,7 +27,7 @@ constexpr RecordDescription kBranches{
     .panelClass = "ctlRAMI",
     .find =
         "SELECT COD_RAMO || '  ' || DESCRIZIONE AS TESTO, COD_RAMO FROM RAMI "
-        "WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY COD_RAMO LIMIT ?2",
+        "WHERE holds(TESTO, ?1) ORDER BY COD_RAMO LIMIT ?2",
     .table = "RAMI",
     .key = kKey,
     .fields = kFields,

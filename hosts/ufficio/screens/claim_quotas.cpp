@@ -23,7 +23,7 @@ constexpr RecordDescription kClaimQuotas{
         "coalesce(C.DESC_CLIENTE, P.COD_CLIENTE, '') AS TESTO, S.N_SINISTRO "
         "FROM SINISTRI S LEFT JOIN POLIZZE P ON P.PROT = S.PROT "
         "LEFT JOIN CLIENTI C ON C.COD_CLIENTE = P.COD_CLIENTE "
-        "WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY S.N_SINISTRO LIMIT ?2",
+        "WHERE holds(TESTO, ?1) ORDER BY S.N_SINISTRO LIMIT ?2",
     .table = "QUOTE_SINISTRI",
     .key = kKey,
     .order = "COD_COMP",

@@ -38,7 +38,7 @@ constexpr RecordDescription kCommissions{
         "coalesce(C.DESC_CLIENTE, P.COD_CLIENTE) AS TESTO, Q.PROT, Q.COD_COMP "
         "FROM QUOTE_POLIZZE Q JOIN POLIZZE P ON P.PROT = Q.PROT "
         "LEFT JOIN CLIENTI C ON C.COD_CLIENTE = P.COD_CLIENTE "
-        "WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY Q.PROT, Q.COD_COMP LIMIT ?2",
+        "WHERE holds(TESTO, ?1) ORDER BY Q.PROT, Q.COD_COMP LIMIT ?2",
     .table = "QUOTE_POLIZZE",
     .key = kKey,
     .fields = kTrf,

@@ -22,7 +22,7 @@ constexpr RecordDescription kCreditLines{
     .panelClass = "ctlFIDO",
     .find =
         "SELECT COD_CLIENTE || '  ' || DESC_CLIENTE AS TESTO, COD_CLIENTE FROM CLIENTI "
-        "WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY COD_CLIENTE LIMIT ?2",
+        "WHERE holds(TESTO, ?1) ORDER BY COD_CLIENTE LIMIT ?2",
     .table = "FIDI",
     .key = kKey,
     .fields = kFields,

@@ -28,7 +28,7 @@ constexpr std::string_view kFind =
     "SELECT N_MOVIMENTO || '  ' || substr(DATA_MOVIMENTO, 9, 2) || '/' || substr(DATA_MOVIMENTO, 6, 2) || '/' "
     "|| substr(DATA_MOVIMENTO, 1, 4) || '  ' || DESC_1 || '  ' || DESC_2, N_MOVIMENTO FROM MOVIMENTI A "
     "WHERE NOT EXISTS (SELECT 1 FROM MOVIMENTI B WHERE B.N_MOVIMENTO = A.N_MOVIMENTO AND B.RIGA < A.RIGA)) "
-    "WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY NUMERO > 0, NUMERO DESC LIMIT ?2";
+    "WHERE holds(TESTO, ?1) ORDER BY NUMERO > 0, NUMERO DESC LIMIT ?2";
 
 constexpr std::array kFields{
     Field{"Mastro", "MASTRO", Kind::Text}, Field{"Conto", "CONTO", Kind::Text},
@@ -123,6 +123,7 @@ class JournalEntry final : public Screen {
     key_.clear();
     lines_.show(std::move(lines), empty);
     vat_.clear();
+    vat_.panel().surface().Visible(true);
     callByName(vat_.panel(), "Disattiva", {});
     vat_.show(vat, journal::kVatFields);
     key_ = key;
@@ -153,7 +154,11 @@ class JournalEntry final : public Screen {
     transaction.commit();
     forget();
   }
-  void forget() override { key_.clear(); }
+  void forget() override {
+    key_.clear();
+    lines_.forget();
+    vat_.forget();
+  }
 
   Key save(Store& store) override {
     const std::vector<Row> lines = lines_.lines();

@@ -25,7 +25,7 @@ constexpr std::string_view kTable = "STAMPE_GIORNALE";
 constexpr std::string_view kFind =
     "SELECT 'Esercizio ' || substr(DA_DATA, 1, 4) AS TESTO, DA_DATA FROM "
     "(SELECT DISTINCT substr(DATA_MOVIMENTO, 1, 4) || '-01-01' AS DA_DATA FROM MOVIMENTI) "
-    "WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY DA_DATA DESC LIMIT ?2";
+    "WHERE holds(TESTO, ?1) ORDER BY DA_DATA DESC LIMIT ?2";
 
 constexpr std::array kHeaderFields{
     Field{"DA_DATA", "DA_DATA", Kind::Day},
@@ -107,6 +107,7 @@ class JournalPrint final : public Screen, private Printing {
     key_.clear();
     header_.clear();
     Panel& panel = header_.panel();
+    panel.surface().Visible(true);
     callByName(panel, "Disattiva", {});
     letByName(panel, "N_RIGHE", static_cast<std::int32_t>(lines.size()));
     letByName(panel, "DARE", carried.debit);
@@ -136,6 +137,12 @@ class JournalPrint final : public Screen, private Printing {
     header_.write(store, kTable);
     transaction.commit();
     return key_;
+  }
+
+  void forget() override {
+    key_.clear();
+    header_.forget();
+    lines_.take({});
   }
 
  private:

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::string_view kFind =
     "SELECT COD_MOVIMENTO || '  ' || DESCRIZIONE AS TESTO, COD_MOVIMENTO FROM TIPI_MOVIMENTI "
-    "WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY COD_MOVIMENTO LIMIT ?2";
+    "WHERE holds(TESTO, ?1) ORDER BY COD_MOVIMENTO LIMIT ?2";
 
 constexpr std::array kFields{
     Field{"PROGRESSIVO", "PROGRESSIVO", Kind::Number},
@@ -79,6 +79,11 @@ class MovementTypeLines final : public Screen {
     lines_.write(store, key_.front(), lines);
     transaction.commit();
     return key_;
+  }
+
+  void forget() override {
+    key_.clear();
+    lines_.forget();
   }
 
  private:

@@ -24,7 +24,7 @@ constexpr RecordDescription kMovementTypes{
     .panelClass = "ctlMOVIMENTI",
     .find =
         "SELECT COD_MOVIMENTO || '  ' || DESCRIZIONE AS TESTO, COD_MOVIMENTO FROM TIPI_MOVIMENTI "
-        "WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY COD_MOVIMENTO LIMIT ?2",
+        "WHERE holds(TESTO, ?1) ORDER BY COD_MOVIMENTO LIMIT ?2",
     .table = "TIPI_MOVIMENTI",
     .key = kKey,
     .fields = kFields,

@@ -34,7 +34,7 @@ constexpr RecordDescription kPolicyQuotas{
     .find =
         "SELECT P.N_POLIZZA || '  ' || coalesce(C.DESC_CLIENTE, P.COD_CLIENTE) AS TESTO, P.PROT "
         "FROM POLIZZE P LEFT JOIN CLIENTI C ON C.COD_CLIENTE = P.COD_CLIENTE "
-        "WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY P.PROT LIMIT ?2",
+        "WHERE holds(TESTO, ?1) ORDER BY P.PROT LIMIT ?2",
     .table = "QUOTE_POLIZZE",
     .key = kKey,
     .order = "COD_COMP",

@@ -38,7 +38,7 @@ constexpr RecordDescription kStatements{
     .find =
         "SELECT E.COD_CLIENTE || '  ' || coalesce(C.DESC_CLIENTE, '') AS TESTO, E.COD_CLIENTE "
         "FROM ESTRATTI E LEFT JOIN CLIENTI C ON C.COD_CLIENTE = E.COD_CLIENTE "
-        "WHERE TESTO LIKE ?1 ESCAPE '\\' GROUP BY E.COD_CLIENTE ORDER BY E.COD_CLIENTE LIMIT ?2",
+        "WHERE holds(TESTO, ?1) GROUP BY E.COD_CLIENTE ORDER BY E.COD_CLIENTE LIMIT ?2",
     .table = "ESTRATTI",
     .key = kKey,
     .order = "DATA_REG, N_RIGA",

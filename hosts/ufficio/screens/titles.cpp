@@ -34,7 +34,7 @@ constexpr RecordDescription kTitles{
         "SELECT P.N_POLIZZA || '  ' || coalesce(C.DESC_CLIENTE, P.COD_CLIENTE) AS TESTO, P.PROT "
         "FROM POLIZZE P LEFT JOIN CLIENTI C ON C.COD_CLIENTE = P.COD_CLIENTE "
         "WHERE EXISTS (SELECT 1 FROM SOSPESI S WHERE S.PROT = P.PROT) "
-        "AND TESTO LIKE ?1 ESCAPE '\\' ORDER BY P.PROT LIMIT ?2",
+        "AND holds(TESTO, ?1) ORDER BY P.PROT LIMIT ?2",
     .table = "SOSPESI",
     .key = kKey,
     .fields = kFields,

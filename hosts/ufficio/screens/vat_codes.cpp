@@ -26,7 +26,7 @@ constexpr RecordDescription kVatCodes{
     .panelClass = "ctlIVA",
     .find =
         "SELECT COD_IVA || '  ' || DESCRIZIONE AS TESTO, COD_IVA FROM TIPI_IVA "
-        "WHERE TESTO LIKE ?1 ESCAPE '\\' ORDER BY COD_IVA LIMIT ?2",
+        "WHERE holds(TESTO, ?1) ORDER BY COD_IVA LIMIT ?2",
     .table = "TIPI_IVA",
     .key = kKey,
     .fields = kFields,

@@ -23,7 +23,7 @@ constexpr RecordDescription kVatLines{
     .find =
         "SELECT N_MOVIMENTO || '  ' || substr(DATA_MOVIMENTO, 9, 2) || '/' || substr(DATA_MOVIMENTO, 6, 2) || '/' "
         "|| substr(DATA_MOVIMENTO, 1, 4) || '  ' || DESC_2 AS TESTO, N_MOVIMENTO FROM MOVIMENTI "
-        "WHERE RIGA = 1 AND TESTO LIKE ?1 ESCAPE '\\' ORDER BY N_MOVIMENTO LIMIT ?2",
+        "WHERE RIGA = 1 AND holds(TESTO, ?1) ORDER BY N_MOVIMENTO LIMIT ?2",
     .table = journal::kVatTable,
     .key = kKey,
     .fields = journal::kVatFields,
