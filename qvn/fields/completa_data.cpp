@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "qvn/fields/Gest_SCHEDE.h"
+#include "qvn/fields/date_mask.h"
 #include "qvn/shared/conversions.h"
 #include "qvn/shared/patterns.h"
 #include "qvn/toolkit/platform.h"
@@ -76,8 +77,8 @@ void CompletaData(toolkit::DateControl& control) {
   if (isDate(control.Value())) return ProssimoCampo(control);
   const std::string text = control.Text();
   const Typed typed{.text = text, .today = control.owner().platform().clock().today()};
-  if (text == "##/##/####") return control.Value(format(typed.today, Pattern::DayMonthYear).str());
-  if (text.size() != 10) return;
+  if (text == fields::kBlankDate) return control.Value(format(typed.today, Pattern::DayMonthYear).str());
+  if (text.size() != fields::kBlankDate.size()) return;
   for (const Completion& completion : kCompletions) {
     if (text.ends_with(completion.end)) return control.Text(completion.whole(typed));
   }

@@ -33,9 +33,9 @@ void wireColouredFirst(toolkit::TextBox& box, std::string_view property, Filter 
 /// "Currency".
 void wireAmount(toolkit::TextBox& box, Filter filter);
 
-/// Wires a field of whole percents: as above, of at most three digits, and each change once announced is kept to 100 at
-/// most. An empty field becomes "0", a value above 100 becomes "100", and what was corrected is selected, so that
-/// the next digit replaces it. A text that is no number fails with "type mismatch", one beyond 16 bits with
+/// Wires a field of whole percents: as wire() does, of at most three digits, and each change once announced is kept to
+/// 100 at most. An empty field becomes "0", a value above 100 becomes "100", and what was corrected is selected, so
+/// that the next digit replaces it. A text that is no number fails with "type mismatch", one beyond 16 bits with
 /// "overflow", both naming the box, and stays.
 void wirePercent(toolkit::TextBox& box, std::string_view property);
 

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "qvn/fields/Gest_SCHEDE.h"
 #include "qvn/toolkit/surface.h"
 
 namespace qvn::lookups {
@@ -31,7 +32,6 @@ constexpr toolkit::FormLayout kLayout{.caption = "Listato",
                                       .inside = {.name = "Lista", .width = 5940, .height = 3180, .widgets = kWidgets}};
 
 constexpr std::int32_t kCorner = 800;
-constexpr std::int16_t kEnter = 13;
 
 void reverse(toolkit::ListView& list) { list.SortOrder(static_cast<std::int16_t>(1 - list.SortOrder())); }
 
@@ -61,7 +61,7 @@ void Lista::wire() {
   surface.button("CmdAbort").Click = [this] { form().unload(); };
   list().DblClick = confirm;
   list().KeyPress = [confirm](std::int16_t& KeyAscii) {
-    if (KeyAscii == kEnter) confirm();
+    if (KeyAscii == Gest_SCHEDE::kEnter) confirm();
   };
   list().ColumnClick = [this](std::int16_t column) { sortBy(column); };
 }

@@ -9,6 +9,7 @@
 
 #include "qvn/shared/Globale.h"
 #include "tests/failure_matchers.h"
+#include "tests/noting_platform.h"
 #include "tests/on_platform.h"
 
 namespace qvn::test {
@@ -212,6 +213,25 @@ TEST_P(VatLine, AnEmptiedCodeBecomesZeroWithBothLabelsEmpty) {
   // The code 0 was looked up inside, before the labels were emptied.
   EXPECT_EQ(statements(), std::vector<std::string>{"Select * From TIPI_IVA Where COD_IVA = 0"});
   EXPECT_EQ(container().notices, (Notices{"COD_IVA", "COD_IVA"}));
+}
+
+TEST_P(VatLine, ACodeWritesTheDescriptionBeforeTheRate) {
+  NotingPlatform noting(platform());
+  Globale::install(noting);
+  Globale::Eventi()->ImpostaDB("fake:ufficio");
+  made.emplace(PanelSite{container(), "riga"});
+  toolkit::TextBox& noted = made->surface().textBox("txtCOD_IVA");
+  const auto writesOf = [&](std::string_view text) {
+    noted.Text(text);
+    noting.notes.clear();
+    noted.Change();
+    return noting.notes;
+  };
+  EXPECT_EQ(writesOf("4"), (Notes{"LblDESC_IVA.Caption ORDINARIA", "lblIVA.Caption 20"}));
+  EXPECT_EQ(writesOf(""), (Notes{"txtCOD_IVA.Text 0", "txtCOD_IVA.SelStart 0", "txtCOD_IVA.SelLength 1",
+                                 "LblDESC_IVA.Caption ", "lblIVA.Caption "}));
+  made.reset();
+  Globale::install(platform());
 }
 
 TEST_P(VatLine, AnEmptiedCodeIsReplacedByTheNextDigit) {
@@ -483,6 +503,23 @@ TEST_P(VatLine, AnAmountIsColouredBeforeItIsRewritten) {
   container().onNotice = [&](toolkit::Surface&, std::string_view) { back = taxable.BackColor(); };
   hands().focus(taxable);
   EXPECT_EQ(back, kCyan);
+}
+
+TEST_P(VatLine, TheCodeIsSelectedBeforeItIsColouredAndAnAmountAfterwards) {
+  NotingPlatform noting(platform());
+  Globale::install(noting);
+  made.emplace(PanelSite{container(), "riga"});
+  noting.notes.clear();
+  made->surface().textBox("txtCOD_IVA").GotFocus();
+  EXPECT_EQ(noting.notes, (Notes{"txtCOD_IVA.SelStart 0", "txtCOD_IVA.SelLength 1", "txtCOD_IVA.BackColor 65535"}));
+  for (const std::string field : {"TxtIMPONIBILE", "TxtIVA"}) {
+    noting.notes.clear();
+    made->surface().textBox(field).GotFocus();
+    EXPECT_EQ(noting.notes, (Notes{field + ".BackColor 16776960", field + ".Text 0,00", field + ".SelStart 0",
+                                   field + ".SelLength 4"}));
+  }
+  made.reset();
+  Globale::install(platform());
 }
 
 TEST_P(VatLine, DisattivaPassesOnWhatLeavingTheFieldFailsWith) {

@@ -84,6 +84,16 @@ TEST_P(MovementLine, TheListKeepsItsColourWithTheFocus) {
   }
 }
 
+TEST_P(MovementLine, AFieldBesideTheKeyIsColouredBeforeItIsSelected) {
+  for (const std::string field : {"TxtDESC_1", "TxtDESC_2"}) {
+    EXPECT_THAT(writesOf(kEntry, [&] { box(field).GotFocus(); }),
+                ElementsAre(field + ".BackColor 16776960", field + ".SelStart 0", field + ".SelLength 0"));
+  }
+  EXPECT_THAT(writesOf(kEntry, [&] { box("TxtIMPORTO").GotFocus(); }),
+              ElementsAre("TxtIMPORTO.BackColor 16776960", "TxtIMPORTO.Text 0,00", "TxtIMPORTO.SelStart 0",
+                          "TxtIMPORTO.SelLength 4"));
+}
+
 TEST_P(MovementLine, ASideIsAnnouncedBeforeItIsPainted) {
   std::uint32_t seen = 0;
   std::string letter;

@@ -125,6 +125,19 @@ TEST_P(MovementAttiva, DisattivaLeavesAnAmountThatIsBeingTyped) {
   EXPECT_THAT(heard(), ElementsAre("IMPORTO"));
 }
 
+TEST_P(MovementAttiva, DisattivaPassesOnWhatTheHostFailsWithAsTheAmountIsLeft) {
+  ready(kEntry);
+  hands().focus(box("TxtIMPORTO"));
+  hands().type("1234");
+  container().onNotice = [](toolkit::Surface&, std::string_view) {
+    throw Failure(FailureKind::InvalidCall, "the host refuses");
+  };
+  EXPECT_FAILURE(call("Disattiva"), FailureKind::InvalidCall, "the host refuses");
+  container().onNotice = {};
+  EXPECT_FALSE(frame().Enabled());
+  EXPECT_EQ(focused(), "");
+}
+
 TEST_P(MovementAttiva, AFrozenListStillTakesTheLettersOfTheHost) {
   withBoth([&](std::string_view className) {
     make(className);

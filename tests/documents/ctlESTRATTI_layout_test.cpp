@@ -3,6 +3,7 @@
 
 #include "qvn/panels/documents/ctlESTRATTI.h"
 #include "tests/documents/line_bench.h"
+#include "tests/noting_platform.h"
 
 namespace qvn::test {
 namespace {
@@ -99,6 +100,29 @@ TEST_P(StatementLayout, EnterGoesThroughTheFieldsUpToTheNextListOrDate) {
   hands().focus(box("TxtINT_ASS"));
   EXPECT_THAT(pathOf("{Enter}", 4), ElementsAre("TxtPREMIO", "TxtRIMBORSO", "TxtPROVVIGIONE", "CmbST_COMP"));
   EXPECT_THAT(container().failures, IsEmpty());
+}
+
+TEST_P(StatementLayout, AFieldIsColouredBeforeItIsSelectedAndAnAmountRewrittenBetween) {
+  NotingPlatform noting(platform());
+  Globale::install(noting);
+  renew();
+  const auto written = [&](const std::string& name) {
+    noting.notes.clear();
+    box(name).GotFocus();
+    return noting.notes;
+  };
+  for (const std::string field : {"TxtSIGLA_SRAMO", "TxtCOD_CLI"}) {
+    EXPECT_EQ(written(field), (Notes{field + ".BackColor 65535", field + ".SelStart 0", field + ".SelLength 0"}));
+  }
+  for (const std::string field : {"TxtN_POLIZZA", "TxtINT_ASS"}) {
+    EXPECT_EQ(written(field), (Notes{field + ".BackColor 16776960", field + ".SelStart 0", field + ".SelLength 0"}));
+  }
+  for (const std::string field : {"TxtPREMIO", "TxtRIMBORSO", "TxtPROVVIGIONE"}) {
+    EXPECT_EQ(written(field), (Notes{field + ".BackColor 16776960", field + ".Text 0,00", field + ".SelStart 0",
+                                     field + ".SelLength 4"}));
+  }
+  panel.reset();
+  Globale::install(platform());
 }
 
 TEST_P(StatementLayout, EnterOnAListDoesNothing) {

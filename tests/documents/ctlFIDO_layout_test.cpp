@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/documents/credit_bench.h"
+#include "tests/noting_platform.h"
 
 namespace qvn::test {
 namespace {
@@ -86,6 +87,17 @@ TEST_P(CreditLayout, AttivaEnablesTheFrameAndGoesToTheCompany) {
   EXPECT_TRUE(wholeSelected(companyBox()));
   EXPECT_THAT(heard(), IsEmpty());
   EXPECT_THAT(asked(), IsEmpty());
+}
+
+TEST_P(CreditLayout, TheCompanyIsColouredBeforeItIsSelected) {
+  NotingPlatform noting(platform());
+  Globale::install(noting);
+  renew();
+  noting.notes.clear();
+  companyBox().GotFocus();
+  EXPECT_EQ(noting.notes, (Notes{"TxtCOD_COMP.BackColor 65535", "TxtCOD_COMP.SelStart 0", "TxtCOD_COMP.SelLength 0"}));
+  panel.reset();
+  Globale::install(platform());
 }
 
 TEST_P(CreditLayout, AttivaOnAHiddenPanelDoesAllButMoveTheFocus) {

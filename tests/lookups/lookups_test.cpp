@@ -322,6 +322,10 @@ TEST_P(Lookups, AKeyOfQuotesAloneIsEmpty) {
   std::string key = "'''";
   EXPECT_EQ(CercaCOMPAGNIA(key), "");
   EXPECT_EQ(key, "");
+  key = "'";
+  std::string conto = "0'01";  // loses its own, though nothing is asked without a ledger
+  EXPECT_EQ(CercaDESC_CONTO(key, conto), "");
+  EXPECT_EQ(key + conto, "001");
   EXPECT_TRUE(driver().ran.empty());
 }
 

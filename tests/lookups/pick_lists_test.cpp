@@ -384,6 +384,14 @@ TEST_P(PickLists, GiveNothingAndUnloadTheListWhereNoRowIsSelected) {
   }
 }
 
+TEST_P(PickLists, TakeAClickOnAColumnWithoutARow) {
+  answerCompanies();
+  log().at("modal Lista", [&] { loadedForm("Lista")->surface().listView("ListView1").clearRows(); });
+  atLista({Act::column(1), Act::column(2), Act::click("CmdOK")});
+  EXPECT_EQ(companies(), "");
+  EXPECT_THAT(loadedForms(), IsEmpty());
+}
+
 TEST_P(PickLists, ConfirmWithEnterOnceThoughTheListAndTheDefaultButtonBothWould) {
   answerCompanies();
   atLista({Act::key("{Enter}")});
@@ -588,6 +596,7 @@ TEST_P(PickLists, AreLaidOutAsEver) {
     EXPECT_EQ(form->place().left, 800);
     EXPECT_EQ(form->place().top, 800);
     const toolkit::Surface& surface = form->surface();
+    ASSERT_EQ(surface.widgets().size(), 3U);
     EXPECT_EQ(surface.listView("ListView1").place(), (toolkit::Place{72, 72, 4548, 3036}));
     EXPECT_EQ(surface.button("CmdOK").place(), (toolkit::Place{4680, 48, 1188, 600}));
     EXPECT_EQ(surface.button("CmdOK").Caption(), "&OK");
@@ -612,6 +621,7 @@ TEST_P(PickLists, AreLaidOutAsEver) {
     EXPECT_EQ(place.top, (screen.height - place.height) / 2);
     EXPECT_EQ(form->surface().layout().width, 2160);
     EXPECT_EQ(form->surface().layout().height, 675);
+    EXPECT_EQ(form->surface().widgets().size(), 2U);
     EXPECT_EQ(form->surface().label("Label1").Caption(), "Ricerca in Corso ...");
     EXPECT_EQ(form->surface().label("Label1").place(), (toolkit::Place{675, 225, 1380, 225}));
     EXPECT_EQ(form->surface().widget("Image1").Name(), "Image1");

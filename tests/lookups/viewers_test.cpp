@@ -202,6 +202,19 @@ TEST_P(Viewers, RefuseASecondOpeningWhileTheyAreShown) {
   EXPECT_THAT(loadedForms(), IsEmpty());
 }
 
+TEST_P(Viewers, StandAsTheyAreWhereASecondOpeningIsRefused) {
+  answer(kAlternates, {"COD_PROD_ALT", "DENOMINAZIONE", "PP_ALT", "RA_ALT"},
+         {{text("P2"), text("Bianchi"), 12.0, 2.76}});
+  log().at("modal FrmVIS_PRODUTTORI",
+           [] { EXPECT_FAILURE(lookups::producersViewer()->load(), FailureKind::InvalidCall, "FrmVIS_PRODUTTORI"); });
+  hands().layDown("FrmVIS_PRODUTTORI", {Act::look(), Act::close()});
+  openAlternates();
+  const auto shown = hands().shown();
+  ASSERT_FALSE(shown.empty());
+  EXPECT_EQ(shown.back().caption, "Visualizza Produttori Alt.");
+  EXPECT_EQ(shown.back().columns[0].field, "COD_PROD_ALT");
+}
+
 TEST_P(Viewers, RefuseWhatComesBeforeTheLoading) {
   const auto viewer = lookups::companiesViewer();
   EXPECT_FAILURE(viewer->extendCaption("x"), FailureKind::InvalidCall, "FrmVIS_COMPAGNIE");
@@ -223,6 +236,7 @@ TEST_P(Viewers, StandInTheMiddleOfTheScreen) {
     const toolkit::Surface& surface = viewer->form().surface();
     EXPECT_EQ(surface.layout().width, 8310);
     EXPECT_EQ(surface.layout().height, 4905);
+    EXPECT_EQ(surface.widgets().size(), 3U);
     EXPECT_EQ(surface.grid("TDBGrid1").place(), (toolkit::Place{75, 75, 8115, 4065}));
     EXPECT_EQ(surface.dataControl("Adodc1").place(), (toolkit::Place{75, 4200, 1815, 390}));
     EXPECT_EQ(surface.button("CmdCHIUDI").place(), (toolkit::Place{6150, 4200, 2040, 615}));

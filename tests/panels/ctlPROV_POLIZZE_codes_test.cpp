@@ -1,6 +1,8 @@
 // Who shares in the commission: company, producer, alternate producer; and when the operator may type.
+#include <functional>
 #include <gtest/gtest.h>
 
+#include "tests/noting_platform.h"
 #include "tests/panels/commission_bench.h"
 #include "tests/refusing_platform.h"
 
@@ -79,6 +81,27 @@ TEST_P(CommissionCodes, TheAlternatesPercentIsShownAsItStandsInTheTable) {
   EXPECT_EQ(caption("LblPRODUTTORE_ALT"), "Q1 - MEZZO (12,5%)");
   panel->COD_PRODUTTORE_ALT("Q2");
   EXPECT_EQ(caption("LblPRODUTTORE_ALT"), "Q2 - NULLO (%)");
+}
+
+TEST_P(CommissionCodes, TheProducerIsNamedBeforeHisFrameIsSwitched) {
+  NotingPlatform noting(platform());
+  Globale::install(noting);
+  Globale::Eventi()->ImpostaDB("failing:fake:ufficio");
+  auto noted = another("annotata");
+  const auto writesOf = [&](const std::function<void()>& act) {
+    noting.notes.clear();
+    act();
+    return noting.notes;
+  };
+  EXPECT_EQ(writesOf([&] { noted->COD_PRODUTTORE("P1"); }),
+            (Notes{"LblPRODUTTORE.Caption P1 - ROSSI", "FrmPROD.Enabled true"}));
+  EXPECT_EQ(writesOf([&] { noted->COD_PRODUTTORE(""); }), (Notes{"LblPRODUTTORE.Caption ", "FrmPROD.Enabled false"}));
+  EXPECT_EQ(writesOf([&] { noted->COD_PRODUTTORE_ALT("P2"); }),
+            (Notes{"LblPRODUTTORE_ALT.Caption P2 - BIANCHI (30%)", "FrmPROD_ALT.Enabled true"}));
+  EXPECT_EQ(writesOf([&] { noted->COD_PRODUTTORE_ALT(""); }),
+            (Notes{"LblPRODUTTORE_ALT.Caption ", "FrmPROD_ALT.Enabled false"}));
+  noted.reset();
+  Globale::install(platform());
 }
 
 TEST_P(CommissionCodes, AnUnknownProducerIsEntitledAllTheSame) {

@@ -1,6 +1,7 @@
 // The eighteen boxes under the operator's hand, and how an amount follows its percent.
 #include <gtest/gtest.h>
 
+#include "tests/noting_platform.h"
 #include "tests/panels/commission_bench.h"
 
 namespace qvn::test {
@@ -163,6 +164,22 @@ TEST_P(CommissionPercents, GainingTheFocusShowsThePlainNumberThenColoursThenSele
       EXPECT_THAT(container().failures, IsEmpty());
     }
   }
+}
+
+TEST_P(CommissionPercents, GainingTheFocusColoursABoxBeforeItIsSelected) {
+  NotingPlatform noting(platform());
+  Globale::install(noting);
+  auto noted = another("annotata");
+  for (const CommissionCell& cell : cells()) {
+    for (const std::string& name : {cell.percentBox(), cell.amountBox()}) {
+      noting.notes.clear();
+      noted->surface().textBox(name).GotFocus();
+      EXPECT_EQ(noting.notes, (Notes{name + ".Text 0,00", name + ".BackColor 16776960", name + ".SelStart 0",
+                                     name + ".SelLength 4"}));
+    }
+  }
+  noted.reset();
+  Globale::install(platform());
 }
 
 TEST_P(CommissionPercents, LosingTheFocusShowsItsFormThenColoursThenRunsTheSummary) {

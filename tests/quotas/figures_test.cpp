@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 #include <limits>
 
+#include "tests/noting_platform.h"
 #include "tests/quotas/quota_bench.h"
 
 namespace qvn::test {
@@ -55,6 +56,28 @@ TEST_P(QuotaFigures, EachFigureOfAPolicyHasItsLabel) {
   EXPECT_THAT(columns(), ElementsAre("€ 10,00", "€ 30,00", "€ 50,00", "€ 20,00", "€ 40,00", "€ 60,00"));
   EXPECT_THAT(heard(), IsEmpty());
   EXPECT_THAT(asked(), IsEmpty());
+}
+
+TEST_P(QuotaFigures, TheLabelsAreWrittenFromTheTopColumnByColumn) {
+  NotingPlatform noting(platform());
+  Globale::install(noting);
+  const auto written = [&](std::string_view className, std::string_view method) {
+    make(className);
+    quota(100);
+    noting.notes.clear();
+    std::vector<Variant> args{std::int16_t{10}};
+    callByName(*panel, method, args);
+    panel.reset();
+    Strings labels;
+    labels.reserve(noting.notes.size());
+    for (const std::string& note : noting.notes) labels.push_back(note.substr(0, note.find('.')));
+    return labels;
+  };
+  const Strings columns{"TAF(0)", "TAF(1)", "TAF(2)", "TRF(0)", "TRF(1)", "TRF(2)"};
+  EXPECT_EQ(written("ctlQ_POLIZZE", "Calcola_QUOTA"), columns);
+  EXPECT_EQ(written("ctlQ_POLIZZE", "Calcola_QUOTA_DELEGATARIA"), columns);
+  EXPECT_EQ(written("ctlQ_SINISTRI", "Calcola_QUOTA"), (Strings{"STIMATO", "LIQUIDATO"}));
+  Globale::install(platform());
 }
 
 TEST_P(QuotaFigures, TheArgumentIsAppliedAndTheFieldLeftAlone) {

@@ -238,10 +238,12 @@ TEST_P(QuotaState, TheFieldsAreColouredBeforeTheyAreSelected) {
     NotingPlatform noting(platform());
     Globale::install(noting);
     make(className);
-    noting.notes.clear();
-    box("TxtCOD_COMP").GotFocus();
-    EXPECT_EQ(noting.notes,
-              (Notes{"TxtCOD_COMP.BackColor 16776960", "TxtCOD_COMP.SelStart 0", "TxtCOD_COMP.SelLength 0"}));
+    for (const std::string& name : fieldsOf(className)) {
+      if (surface().widget(name).Kind() != toolkit::WidgetKind::TextBox) continue;
+      noting.notes.clear();
+      box(name).GotFocus();
+      EXPECT_EQ(noting.notes, (Notes{name + ".BackColor 16776960", name + ".SelStart 0", name + ".SelLength 0"}));
+    }
     panel.reset();
     Globale::install(platform());
   });

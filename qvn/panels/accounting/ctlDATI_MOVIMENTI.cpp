@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "qvn/fields/Gest_SCHEDE.h"
+#include "qvn/fields/list_field.h"
 #include "qvn/fields/skip_failing.h"
 #include "qvn/fields/text_field.h"
 #include "qvn/lookups/QVN_Ricerche.h"
@@ -74,14 +75,6 @@ constexpr std::array<toolkit::WidgetLayout, 9> kWidgets{{
 
 constexpr toolkit::PanelLayout kLayout{.name = "ctlDATI_MOVIMENTI", .width = 5655, .height = 1230, .widgets = kWidgets};
 
-// The rules hold on to widgets alone, as a host may drop the panel at any announcement.
-
-void wireList(toolkit::ComboBox& list, std::string_view property) {
-  list.Click = [&list, property] { fields::announce(list, property); };
-  list.GotFocus = [&list] { Gest_SCHEDE::ColoreFuoco(list, Gest_SCHEDE::kFocused); };
-  list.LostFocus = [&list] { Gest_SCHEDE::ColoreFuoco(list, Gest_SCHEDE::kAtRest); };
-}
-
 }  // namespace
 
 ctlDATI_MOVIMENTI::ctlDATI_MOVIMENTI(const PanelSite& site)
@@ -100,6 +93,7 @@ ctlDATI_MOVIMENTI::ctlDATI_MOVIMENTI(const PanelSite& site)
   CmbTIPO_IVA_.Text(CmbTIPO_IVA_.List(0));
 }
 
+// The handlers hold on to widgets alone, as a host may drop the panel at any announcement.
 void ctlDATI_MOVIMENTI::wire() {
   lblPROGRESSIVO_.Change = [&label = lblPROGRESSIVO_] { fields::announce(label, "PROGRESSIVO"); };
 
@@ -110,12 +104,12 @@ void ctlDATI_MOVIMENTI::wire() {
   };
 
   ChkRIPETI_.Click = [&box = ChkRIPETI_] { fields::announce(box, "RIPETI"); };
-  wireList(cmbTIPO_, "TIPO");
+  fields::wire(cmbTIPO_, "TIPO");
   ChkIVA_.Click = [&box = ChkIVA_, &kinds = CmbTIPO_IVA_] {
     fields::announce(box, "IVA");
     kinds.Enabled(box.Value() != 0);
   };
-  wireList(CmbTIPO_IVA_, "TIPO_IVA");
+  fields::wire(CmbTIPO_IVA_, "TIPO_IVA");
 }
 
 void ctlDATI_MOVIMENTI::Attiva() {

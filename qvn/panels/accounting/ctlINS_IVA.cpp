@@ -110,14 +110,10 @@ void vatLeft(toolkit::TextBox& vat, toolkit::TextBox& taxable, const toolkit::La
   fields::rewrite(taxable, Pattern::Currency);
 }
 
+/// All of an amount but its leaving, which works out the other one.
 void wireAmount(toolkit::TextBox& box, std::string_view property) {
+  fields::wireAmount(box, Gest_SCHEDE::FiltroImporto);
   box.Change = [&box, property] { amountChanged(box, property); };
-  box.GotFocus = [&box] {
-    Gest_SCHEDE::ColoreFuoco(box, Gest_SCHEDE::kFocused);
-    fields::rewrite(box, Pattern::TwoDecimals);
-    Gest_SCHEDE::SelezionaTutto(box);
-  };
-  box.KeyPress = [&box](std::int16_t& KeyAscii) { Gest_SCHEDE::FiltroImporto(box, KeyAscii, 2); };
 }
 
 }  // namespace

@@ -19,7 +19,8 @@ class ctlINS_MOVIMENTI final : public Panel {
  public:
   explicit ctlINS_MOVIMENTI(const PanelSite& site);
 
-  /// Freezes the panel. The values stay visible and readable.
+  /// Freezes the panel. The values stay visible and readable. The field that had the focus is left first; what its
+  /// announcement fails with passes on.
   void Disattiva();
   /// Lets the operator type: enables the fields and puts the focus on the ledger. Never fails.
   void Attiva();

@@ -5,6 +5,7 @@
 
 #include "qvn/fields/Gest_SCHEDE.h"
 #include "qvn/fields/date_field.h"
+#include "qvn/fields/date_mask.h"
 #include "qvn/fields/shown_number.h"
 #include "qvn/fields/skip_failing.h"
 #include "qvn/fields/text_field.h"
@@ -20,9 +21,6 @@ using toolkit::Align;
 using toolkit::Place;
 using toolkit::WidgetKind;
 using toolkit::WidgetLayout;
-
-/// What stands in the place of a date that there is not, as in a blank date field.
-constexpr std::string_view kBlank = "##/##/####";
 
 constexpr WidgetLayout caption(std::string_view name, std::int16_t tab, std::string_view text, Place place) {
   return {.name = name,
@@ -50,7 +48,7 @@ constexpr WidgetLayout shown(std::string_view name, std::int16_t tab, std::strin
 constexpr std::array<WidgetLayout, 12> kWidgets{{
     {.name = "Frame1", .kind = WidgetKind::Frame, .tabIndex = 0, .place = {75, 0, 5490, 1440}, .enabled = false},
     caption("Label1", 1, "Da Data:", {225, 225, 765, 315}),
-    shown("LblDA_DATA", 2, kBlank, Align::Left, {1050, 225, 1215, 315}),
+    shown("LblDA_DATA", 2, fields::kBlankDate, Align::Left, {1050, 225, 1215, 315}),
     caption("Label2", 3, "A Data:", {2175, 225, 765, 315}),
     {.name = "TxtA_DATA",
      .kind = WidgetKind::DateControl,
@@ -111,7 +109,7 @@ void ctlSTP_GIORNALE::DA_DATA(const Variant& date) {
   const std::string text = placed(
       LblDA_DATA_.Name(), [&] { return formatValue(date, Pattern::DayMonthYear, surface_->platform().locale()); });
   if (text == LblDA_DATA_.Caption()) return;
-  LblDA_DATA_.Caption(fields::isNoDate(date) ? kBlank : text);
+  LblDA_DATA_.Caption(fields::isNoDate(date) ? fields::kBlankDate : text);
 }
 
 Variant ctlSTP_GIORNALE::A_DATA() const { return TxtA_DATA_.Value(); }

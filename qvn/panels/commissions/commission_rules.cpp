@@ -1,6 +1,7 @@
 #include "qvn/panels/commissions/commission_rules.h"
 
 #include "qvn/fields/Gest_SCHEDE.h"
+#include "qvn/fields/list_field.h"
 #include "qvn/fields/shown_number.h"
 #include "qvn/fields/text_field.h"
 #include "qvn/lookups/QVN_Ricerche.h"
@@ -116,10 +117,8 @@ Rules::Rules(toolkit::Surface& surface)
 void Rules::wireParty(Party& party) {
   for (Cell& cell : party.cells) wireCell(party, cell);
   if (party.base == nullptr) return;
-  toolkit::ComboBox& list = *party.base;
-  list.Click = [&party] { fields::announce(*party.base, party.its.baseNotice); };
-  list.GotFocus = [&list] { Gest_SCHEDE::ColoreFuoco(list, Gest_SCHEDE::kFocused); };
-  list.LostFocus = [this, &party] {
+  fields::wire(*party.base, party.its.baseNotice);
+  party.base->LostFocus = [this, &party] {
     Gest_SCHEDE::ColoreFuoco(*party.base, Gest_SCHEDE::kAtRest);
     recompute(party);
     TOTALI();

@@ -112,7 +112,9 @@ class ctlPROV_POLIZZE final : public Panel {
   /// Lets the operator type: enables the office and each producer that has a code, and puts the focus on the office's
   /// first percent. Never fails.
   void Attiva();
-  /// Freezes the panel. The values stay, and amounts no longer follow.
+  /// Freezes the panel: office, producer, alternate producer. The values stay, and amounts no longer follow. The field
+  /// that had the focus is left first, with its TOTALI; what that fails with passes on, and the parties behind its own
+  /// are not frozen.
   void Disattiva();
 
   /// The alternate producer, QUOTE_POLIZZE.COD_PROD_ALT; shown with name and PRODUTTORI.PERCALT. Otherwise as

@@ -6,6 +6,7 @@
 
 #include "qvn/fields/Gest_SCHEDE.h"
 #include "qvn/fields/date_field.h"
+#include "qvn/fields/list_field.h"
 #include "qvn/fields/shown_number.h"
 #include "qvn/fields/skip_failing.h"
 #include "qvn/fields/text_field.h"
@@ -134,12 +135,6 @@ void wireAmount(toolkit::TextBox& field, std::string_view property) {
   };
 }
 
-void wireList(toolkit::ComboBox& closed, std::string_view property) {
-  closed.Click = [&closed, property] { fields::announce(closed, property); };
-  closed.GotFocus = [&closed] { Gest_SCHEDE::ColoreFuoco(closed, Gest_SCHEDE::kFocused); };
-  closed.LostFocus = [&closed] { Gest_SCHEDE::ColoreFuoco(closed, Gest_SCHEDE::kAtRest); };
-}
-
 void wireCheck(toolkit::CheckBox& flag, std::string_view notice) {
   flag.Click = [&flag, notice] { fields::announce(flag, notice); };
 }
@@ -218,7 +213,7 @@ ctlESTRATTI::~ctlESTRATTI() = default;
 
 void ctlESTRATTI::wire() {
   fields::wire(TxtDATA_EC_, "DATA_EC", fields::EnterKey::LeftToTheField);
-  wireList(CmbTIPO_DOC_, "TIPO_DOC");
+  fields::wire(CmbTIPO_DOC_, "TIPO_DOC");
   documents::wireWithList(TxtSIGLA_SRAMO_, "SIGLA_SRAMO");
   TxtSIGLA_SRAMO_.KeyPress = [&initials = TxtSIGLA_SRAMO_](std::int16_t& KeyAscii) { initialsKey(initials, KeyAscii); };
   documents::wireCode(TxtCOD_CLI_, "COD_CLIENTE", QVN_Ricerche::ListaCLIENTI, 6);
@@ -229,8 +224,8 @@ void ctlESTRATTI::wire() {
   wireAmount(TxtPREMIO_, "PREMIO");
   wireAmount(TxtRIMBORSO_, "RIMBORSO");
   wireAmount(TxtPROVVIGIONE_, "PROVVIGIONE");
-  wireList(CmbST_COMP_, "ST_COMP");
-  wireList(CmbST_PROD_, "ST_PROD");
+  fields::wire(CmbST_COMP_, "ST_COMP");
+  fields::wire(CmbST_PROD_, "ST_PROD");
   wireCheck(chkSTAMPA_, "STAMPA");
 }
 

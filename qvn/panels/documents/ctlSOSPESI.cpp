@@ -5,9 +5,9 @@
 
 #include "qvn/fields/Gest_SCHEDE.h"
 #include "qvn/fields/date_field.h"
+#include "qvn/fields/list_field.h"
 #include "qvn/fields/shown_number.h"
 #include "qvn/fields/skip_failing.h"
-#include "qvn/fields/text_field.h"
 #include "qvn/lookups/QVN_Ricerche.h"
 #include "qvn/panels/documents/captions.h"
 #include "qvn/panels/documents/document_layout.h"
@@ -103,11 +103,7 @@ ctlSOSPESI::ctlSOSPESI(const PanelSite& site)
 void ctlSOSPESI::wire() {
   fields::wire(TxtDATA_C_, "DATA_C", fields::EnterKey::LeftToTheField);
   fields::wire(TxtDATA_DOC_, "DATA_DOC", fields::EnterKey::LeftToTheField);
-
-  toolkit::ComboBox& actions = CmbTIPO_CONT_;
-  actions.Click = [&actions] { fields::announce(actions, "N_STATO"); };
-  actions.GotFocus = [&actions] { Gest_SCHEDE::ColoreFuoco(actions, Gest_SCHEDE::kFocused); };
-  actions.LostFocus = [&actions] { Gest_SCHEDE::ColoreFuoco(actions, Gest_SCHEDE::kAtRest); };
+  fields::wire(CmbTIPO_CONT_, "N_STATO");
 
   toolkit::Label& PROT = label("LblPROT");
   toolkit::Label& PROG = label("LblPROG");

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "qvn/fields/Gest_SCHEDE.h"
+#include "qvn/fields/list_field.h"
 #include "qvn/fields/skip_failing.h"
 #include "qvn/fields/text_field.h"
 #include "qvn/shared/Globale.h"
@@ -70,12 +71,7 @@ ctlRAMI::ctlRAMI(const PanelSite& site)
 void ctlRAMI::wire() {
   fields::wireColouredFirst(TxtCOD_RAMO_, "COD_RAMO", Gest_SCHEDE::FiltroTesto, 2);
   fields::wireColouredFirst(txtDescrizione_, "DESCRIZIONE", Gest_SCHEDE::FiltroTesto, 50);
-
-  toolkit::ComboBox& screens = CmbTIPO_SK_;
-  screens.Click = [&screens] { fields::announce(screens, "TIPO_SK"); };
-  screens.GotFocus = [&screens] { Gest_SCHEDE::ColoreFuoco(screens, Gest_SCHEDE::kFocused); };
-  screens.LostFocus = [&screens] { Gest_SCHEDE::ColoreFuoco(screens, Gest_SCHEDE::kAtRest); };
-
+  fields::wire(CmbTIPO_SK_, "TIPO_SK");
   ckCompetenze_.Click = [&box = ckCompetenze_] { fields::announce(box, "competenze"); };
 }
 
