@@ -96,6 +96,7 @@ struct Tie {
 char* SortedRows::room(std::size_t bytes) {
   if (used_ == capacity_ || bytes > capacity_ - used_) {
     if (chunks_.size() == kMostChunks) throw Failure(FailureKind::Overflow, "there are too many rows");
+    // A row larger than any chunk has one to itself, and fills it: none can begin so far behind.
     const std::size_t next = std::max(std::clamp(capacity_ * 2, kSmallestChunk, kLargestChunk), bytes);
     chunks_.push_back(std::make_unique_for_overwrite<char[]>(next));
     capacity_ = next;
@@ -121,8 +122,6 @@ void SortedRows::add(std::span<const std::string_view> texts) {
     to = std::ranges::copy(text, to).out;
   }
   used_ += bytes;
-  // A large row has its chunk to itself, as none can begin so far behind.
-  if (used_ >= kLargestChunk) used_ = capacity_;
   grouped_ = false;
 }
 

@@ -155,7 +155,6 @@ void Form::showModal() {
   if (unloading_) refuse("is being unloaded and cannot be shown");
   load();
   if (!loaded()) refuse("unloaded itself while it was loaded, and cannot be shown");
-  if (showing_ != nullptr) refuse("is shown already");
 
   Showing showing;
   Surface& surface = *surface_;

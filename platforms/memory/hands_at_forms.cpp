@@ -112,7 +112,6 @@ void Hands::actAtList(ListView& list, const Act& act) {
 
 void Hands::pressOnForm(Surface& form, Key key) {
   if (key.name != KeyName::Enter && key.name != KeyName::Escape) return;
-  if (platform_.focus().front() != &form) return;
   for (toolkit::Widget* widget : form.widgets()) {
     const toolkit::WidgetLayout& row = widget->layout();
     const bool meant = key.name == KeyName::Enter ? row.defaultButton : row.cancelButton;

@@ -3,6 +3,7 @@
 #include <QStyleOptionButton>
 
 #include "platforms/qt/captions.h"
+#include "platforms/qt/key_events.h"
 #include "platforms/qt/screen.h"
 #include "platforms/qt/texts.h"
 
@@ -11,13 +12,6 @@ namespace qvn::qt {
 namespace {
 
 constexpr int kButtonMargin = 4;  // pixels between a button's edge and its caption
-
-/// Whether the event is Tab or Shift+Tab, which Qt would take before the widget.
-bool isTab(const QEvent& event) {
-  if (event.type() != QEvent::KeyPress) return false;
-  const int key = static_cast<const QKeyEvent&>(event).key();
-  return key == Qt::Key_Tab || key == Qt::Key_Backtab;
-}
 
 }  // namespace
 

@@ -8,6 +8,7 @@
 
 #include "platforms/qt/captions.h"
 #include "platforms/qt/colours.h"
+#include "platforms/qt/key_events.h"
 #include "platforms/qt/screen.h"
 #include "platforms/qt/texts.h"
 
@@ -90,11 +91,7 @@ void ComboView::fitItems() {
 }
 
 bool ComboView::event(QEvent* event) {
-  if (event->type() == QEvent::KeyPress) {
-    auto& key = static_cast<QKeyEvent&>(*event);
-    if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) return press(key);
-  }
-  return QComboBox::event(event);
+  return isTab(*event) ? press(static_cast<QKeyEvent&>(*event)) : QComboBox::event(event);
 }
 
 void ComboView::keyPressEvent(QKeyEvent* event) {

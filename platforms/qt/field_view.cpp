@@ -13,6 +13,7 @@
 #include <limits>
 
 #include "platforms/qt/colours.h"
+#include "platforms/qt/key_events.h"
 #include "platforms/qt/screen.h"
 #include "platforms/qt/texts.h"
 
@@ -76,7 +77,6 @@ void FieldView::showSelection() {
   const int length = unitsBefore(text, field().SelStart() + field().SelLength()) - start;
   if (length == 0) {
     if (hasSelectedText() || cursorPosition() != start) setCursorPosition(start);
-    if (hasSelectedText()) deselect();
   } else if (selectionStart() != start || selectionLength() != length) {
     setSelection(start, length);
   }
@@ -132,14 +132,9 @@ void FieldView::undoByHand() {
 }
 
 bool FieldView::event(QEvent* event) {
-  if (event->type() == QEvent::KeyPress) {
-    auto& key = static_cast<QKeyEvent&>(*event);
-    if (key.key() == Qt::Key_Tab || key.key() == Qt::Key_Backtab) {
-      keyPressEvent(&key);
-      return true;
-    }
-  }
-  return QLineEdit::event(event);
+  if (!isTab(*event)) return QLineEdit::event(event);
+  keyPressEvent(static_cast<QKeyEvent*>(event));
+  return true;
 }
 
 bool FieldView::deleteWord(const QKeyEvent& event) {
@@ -227,12 +222,8 @@ void FieldView::contextMenuEvent(QContextMenuEvent* event) {
   menu->popup(event->globalPos());
 }
 
-void FieldView::focusInEvent(QFocusEvent* event) {
-  // For any other reason Qt selects the text of itself, which is for the panel to do.
-  QFocusEvent plain(QEvent::FocusIn,
-                    event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason
-                        ? event->reason()
-                        : Qt::OtherFocusReason);
+void FieldView::focusInEvent(QFocusEvent* /*event*/) {
+  QFocusEvent plain(QEvent::FocusIn, Qt::OtherFocusReason);  // for Tab Qt selects of itself what is for the panel to do
   QLineEdit::focusInEvent(&plain);
 }
 

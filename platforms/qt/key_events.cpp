@@ -77,4 +77,10 @@ std::vector<Key> keysOf(const QKeyEvent& event) {
   return keys;
 }
 
+bool isTab(const QEvent& event) {
+  if (event.type() != QEvent::KeyPress) return false;
+  const int key = static_cast<const QKeyEvent&>(event).key();
+  return key == Qt::Key_Tab || key == Qt::Key_Backtab;
+}
+
 }  // namespace qvn::qt

@@ -12,4 +12,7 @@ namespace qvn::qt {
 /// to Qt, shortcuts among it. The keypad's decimal key types a comma, whatever the keyboard's layout.
 std::vector<memory::Key> keysOf(const QKeyEvent& event);
 
+/// Whether the event is a press of Tab or Shift+Tab, which Qt would take before the widget.
+bool isTab(const QEvent& event);
+
 }  // namespace qvn::qt

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QStyle>
 #include <array>
+#include <limits>
 
 #include "platforms/qt/captions.h"
 #include "platforms/qt/colours.h"
@@ -33,7 +34,7 @@ void LabelView::showContent() {
   const QString caption = shown(static_cast<toolkit::Label&>(*subject()).Caption());
   setWordWrap(height() >= 2 * fontMetrics().lineSpacing());
   if (text() != caption) setText(caption);
-  if (!wordWrap()) fitCaption(*this, caption, contentsRect().width());
+  fitCaption(*this, caption, wordWrap() ? std::numeric_limits<int>::max() : contentsRect().width());
   const QString tip = shown(subject()->ToolTip());
   const bool cut = !wordWrap() && shownText() != caption;
   setToolTip(cut ? (tip.isEmpty() ? caption : tip + QStringLiteral(": ") + caption) : tip);

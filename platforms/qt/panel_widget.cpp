@@ -130,6 +130,12 @@ void PanelWidget::detach() {
   surface_ = nullptr;
 }
 
+bool PanelWidget::event(QEvent* event) {
+  // Qt does not know yet of a panel that was hidden before it was placed.
+  if (event->type() == QEvent::ParentChange && surface_ != nullptr && !surface_->Visible()) showFlags();
+  return QWidget::event(event);
+}
+
 void PanelWidget::changeEvent(QEvent* event) {
   QWidget::changeEvent(event);
   constexpr std::array kOfTheDesktop{QEvent::ApplicationPaletteChange, QEvent::PaletteChange,

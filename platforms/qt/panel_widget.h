@@ -31,6 +31,7 @@ class PanelWidget final : public QWidget {
   void formWindow(FormWindow& window) { window_ = &window; }
 
  protected:
+  bool event(QEvent* event) override;
   void changeEvent(QEvent* event) override;
 
  private:

@@ -16,7 +16,6 @@ PlacedPanel::PlacedPanel(Platform& platform, Maker make, const QString& name, QW
   setFixedSize(inside.size());
   inside.setParent(this);
   inside.move(0, 0);
-  inside.setVisible(panel_->surface().Visible());
   connect(&announcements_, &Announcements::changed, this,
           [this](const QString& /*panel*/, const QString& property) { emit changed(property); });
   connect(&announcements_, &Announcements::failed, this,

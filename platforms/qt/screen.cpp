@@ -10,8 +10,14 @@
 namespace qvn::qt {
 
 Screen::Screen(memory::Platform& platform) : platform_(platform) {
-  QObject::connect(qApp, &QApplication::focusChanged, &receiver_,
-                   [this](QWidget* /*before*/, QWidget* now) { focusWentTo(now); });
+  QObject::connect(qApp, &QApplication::focusChanged, &receiver_, [this](QWidget* before, QWidget* now) {
+    const toolkit::Widget* holder = platform_.focused();
+    View* view = holder == nullptr || holder == holderShown_ ? nullptr : viewOf(*holder);
+    // A window that comes up is given a focus by Qt, unless it is shown which it has.
+    const bool comesUp = now != nullptr && (before == nullptr || before->window() != now->window());
+    if (comesUp && view != nullptr && view->widget().window() == now->window()) return settle();
+    focusWentTo(now);
+  });
 }
 
 Screen::~Screen() {

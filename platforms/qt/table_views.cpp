@@ -7,20 +7,11 @@
 #include <utility>
 
 #include "platforms/qt/colours.h"
+#include "platforms/qt/key_events.h"
 #include "platforms/qt/screen.h"
 #include "platforms/qt/twips.h"
 
 namespace qvn::qt {
-
-namespace {
-
-bool isTab(const QEvent& event) {
-  if (event.type() != QEvent::KeyPress) return false;
-  const int key = static_cast<const QKeyEvent&>(event).key();
-  return key == Qt::Key_Tab || key == Qt::Key_Backtab;
-}
-
-}  // namespace
 
 ListWidget::ListWidget(Screen& screen, memory::ListView& model, QWidget& parent)
     : QTableView(&parent), View(screen, model), rows_(*new TableRows<toolkit::ListView>(model, this)) {

@@ -239,6 +239,8 @@ TEST_F(Listing, tellsWhichActsCouldNotBeDone) {
   type(on(), "?");
   EXPECT_THAT(failedActs(), testing::StartsWith("Lista: "));
   EXPECT_EQ("", failedActs());
+  type(on(), "??");
+  EXPECT_THAT(failedActs(), testing::MatchesRegex("Lista: [^\n]+\nLista: [^\n]+\n"));
   EXPECT_EQ("", get(panel(), "COD_COMP").text());
 }
 

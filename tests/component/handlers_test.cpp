@@ -260,7 +260,10 @@ TEST_F(Handlers, mayDropThePanelAsItFails) {
   const auto handler = [](void* data, qvn_object*, const char* widget, const char*, std::int32_t, const char*) {
     heardBy(data).note(widget);
   };
-  ASSERT_EQ(QVN_OK, qvn_on_failed(panel, handler, &heard, subscription.place()));
+  Handle second;
+  for (Handle* one : {&subscription, &second}) {
+    ASSERT_EQ(QVN_OK, qvn_on_failed(panel, handler, &heard, one->place()));
+  }
   ASSERT_EQ(QVN_OK, qvn_call(panel, "Attiva", nullptr, 0, nullptr));
   ASSERT_EQ(QVN_OK, qvn_operator_focus(panel, "TxtCOD_COMP"));
   EXPECT_NE(QVN_UNKNOWN, qvn_operator_type(onScreen.get(), "AB"));

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 #include <iterator>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "tests/component/component.h"
@@ -121,6 +122,17 @@ TEST_F(Manifest, leavesOtherFilesAlone) {
     EXPECT_EQ(QVN_SELFREG_E_CLASS, DllUnregisterServer());
     EXPECT_EQ(text, written());
   }
+}
+
+TEST_F(Manifest, isNotWrittenThroughALinkThatLeadsNowhere) {
+  const std::string target = path() + ".elsewhere";
+  std::error_code none;
+  std::filesystem::create_symlink(target, path(), none);
+  if (none) return;  // where links need a right that few have
+  tell(path());
+  EXPECT_EQ(QVN_SELFREG_E_CLASS, DllRegisterServer());
+  EXPECT_THAT(qvn_last_message(), HasSubstr("no manifest"));
+  EXPECT_THAT(inFolder(), testing::ElementsAre("qvn.manifest"));
 }
 
 TEST_F(Manifest, isRefusedWhereItCannotBe) {

@@ -156,6 +156,17 @@ TEST_F(Members, areThoseOfPanelsAndEventObjectsAlone) {
   EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "screen", qvn_call(onScreen.get(), "IVA", nullptr, 0, nullptr)));
 }
 
+TEST_F(Members, thatFailLeaveThePlaceForTheirResultEmpty) {
+  const Handle onScreen = screen();
+  const Handle panel = create(onScreen, "ctlIVA", "iva");
+  qvn_value result = number(7);
+  EXPECT_EQ(QVN_NO_SUCH_MEMBER, qvn_call(panel.get(), "Salva", nullptr, 0, &result));
+  EXPECT_EQ(QVN_EMPTY, result.kind);
+  result = number(7);
+  EXPECT_EQ(QVN_INVALID_ARGUMENT, qvn_call(nullptr, "Salva", nullptr, 0, &result));
+  EXPECT_EQ(QVN_EMPTY, result.kind);
+}
+
 TEST_F(Members, ofTheEventObjectAreCalledByName) {
   const Handle onScreen = screen();
   const Handle events = eventsOf(create(onScreen, "ctlFIDO", "fido"));
@@ -174,6 +185,13 @@ TEST_F(Members, ofTheEventObjectAreCalledByName) {
 TEST_F(Members, ofTheEventObjectNeedAScreen) {
   const Handle events = create(Handle(), "clsQVN_Eventi", nullptr);
   EXPECT_TRUE(failed(QVN_INVALID_CALL, "platform", qvn_call(events.get(), "FireMancaDB", nullptr, 0, nullptr)));
+}
+
+TEST(Statuses, areGivenBackWithAMessageOrWithNone) {
+  EXPECT_EQ(QVN_OVERFLOW, qvn_fail(QVN_OVERFLOW, "troppo"));
+  EXPECT_STREQ("troppo", qvn_last_message());
+  EXPECT_EQ(QVN_DATABASE, qvn_fail(QVN_DATABASE, nullptr));
+  EXPECT_STREQ("", qvn_last_message());
 }
 
 TEST(Statuses, haveNames) {

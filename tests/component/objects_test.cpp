@@ -127,7 +127,9 @@ TEST_F(References, toNothingAreNone) {
   EXPECT_EQ(0, qvn_addref(nullptr));
   EXPECT_EQ(0, qvn_release(nullptr));
   const char* name = nullptr;
+  name = "former";
   EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "null", qvn_class_of(nullptr, &name)));
+  EXPECT_EQ(nullptr, name);
 }
 
 TEST_F(Screens, areOneAtATime) {

@@ -268,7 +268,7 @@ TEST_F(Looking, hidesAndShowsAPanel) {
   ASSERT_EQ(QVN_OK, qvn_panel_show(panel.get(), 0));
   EXPECT_EQ("", focused(on()));
   EXPECT_TRUE(failed(QVN_INVALID_CALL, "TxtIVA", qvn_operator_focus(panel.get(), "TxtIVA")));
-  ASSERT_EQ(QVN_OK, qvn_panel_show(panel.get(), 1));
+  ASSERT_EQ(QVN_OK, qvn_panel_show(panel.get(), 2));
   EXPECT_EQ(QVN_OK, qvn_operator_focus(panel.get(), "TxtIVA"));
   EXPECT_EQ(QVN_INVALID_ARGUMENT, qvn_panel_show(on().get(), 1));
 }

@@ -71,6 +71,12 @@ TEST_P(Keys, ANegativeValueInTheKeysPlacePutsNoTextIn) {
   EXPECT_EQ(box().Text(), "");
 }
 
+TEST_P(Keys, ABlankThatDoesNotBreakIsACharacterLikeAnother) {
+  box().SetFocus();
+  hands().type("1\u00A02");
+  EXPECT_EQ(box().Text(), "1\u00A02");
+}
+
 TEST_P(Keys, BackspaceInTheKeysPlaceDeletes) {
   box().Text("ab");
   box().SetFocus();
@@ -302,7 +308,7 @@ TEST_P(Keys, ABraceIsTypedByTwo) {
 
 TEST_P(Keys, AKeyOfAnotherNameFailsAfterTheKeysBeforeItWereTyped) {
   box().SetFocus();
-  EXPECT_FAILURE(hands().type("12{F4}3"), FailureKind::InvalidCall, "{F4}");
+  EXPECT_FAILURE(hands().type("12{F4}3"), FailureKind::InvalidCall, "\"{F4}\"");
   EXPECT_EQ(box().Text(), "12");
   EXPECT_FAILURE(hands().type("{enter}"), FailureKind::InvalidCall, "{enter}");
   EXPECT_FAILURE(hands().type("{Ent"), FailureKind::InvalidCall, "{Ent");

@@ -22,10 +22,6 @@ class MemoryPlatform : public testing::Test {
   toolkit::TextBox& b = panel->textBox("B");
 };
 
-TEST_F(MemoryPlatform, HasForms) {
-  EXPECT_TRUE(platform.capabilities().modalForms);  // so that no test of forms is passed over
-}
-
 TEST_F(MemoryPlatform, ChangesThatNeverSettleFail) {
   a.Change = [this] { a.Text(a.Text() + "x"); };
   EXPECT_FAILURE(a.Text("x"), FailureKind::InvalidCall, "without end");

@@ -472,6 +472,23 @@ TEST_P(ModalForm, FailuresUnderTheHandGoToItsContainer) {
                           "Pick Cancel Click: annulla", "Pick Rows Unload: scarico"));
 }
 
+TEST_P(ModalForm, AFailureOfUnloadPassesOnWhereNoWidgetCanBeNamed) {
+  static constexpr toolkit::FormLayout kEmpty{.caption = "Vuota", .inside = {.name = "Empty"}};
+  const auto empty = make(kEmpty);
+  empty->Unload = fails("scarico");
+  EXPECT_FAILURE(empty->showModal(), FailureKind::Overflow, "scarico");
+  EXPECT_FALSE(empty->loaded());
+  EXPECT_THAT(reported(), IsEmpty());
+}
+
+TEST_P(ModalForm, OneThatItsFirstFieldClosesIsNotSeen) {
+  hands().takePictures(true);
+  ask().Load = [this] { field().GotFocus = [this] { ask().hide(); }; };
+  ask().showModal();
+  EXPECT_TRUE(ask().loaded());
+  EXPECT_THAT(hands().shown(), IsEmpty());
+}
+
 TEST_P(ModalForm, AFailureOfUnloadByAHandlerIsThatHandlers) {
   wirePick();
   pick().Unload = fails("scarico");

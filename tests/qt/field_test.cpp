@@ -111,6 +111,7 @@ TEST_F(QtField, CutsAndUndoes) {
   box().Change = [&] { ++changes; };
   press(Qt::Key_Z, "\x1a", Qt::ControlModifier);
   EXPECT_EQ(box().Text(), "12345");
+  EXPECT_EQ(box().SelStart(), 5);
   press(Qt::Key_Z, "\x1a", Qt::ControlModifier);
   EXPECT_EQ(box().Text(), "1234");
   EXPECT_EQ(changes, 2);
@@ -123,6 +124,62 @@ TEST_F(QtField, UndoesNothingThatWasWrittenBeforeItHadTheFocus) {
   focus(box());
   press(Qt::Key_Z, "\x1a", Qt::ControlModifier);
   EXPECT_EQ(box().Text(), "1");
+}
+
+TEST_F(QtField, UndoesNothingThatHasSentTheFocusOn) {
+  box().Change = [this] { box("B").SetFocus(); };
+  write("1");
+  focus(box());
+  press(Qt::Key_Z, "\x1a", Qt::ControlModifier);
+  EXPECT_EQ(box().Text(), "1");
+}
+
+TEST_F(QtField, CutsNothingWhereNothingIsSelected) {
+  write("123");
+  press(Qt::Key_Home);
+  press(Qt::Key_X, "\x18", Qt::ControlModifier);
+  EXPECT_EQ(box().Text(), "123");
+}
+
+TEST_F(QtField, DeletesTheWordBeforeAndBehindTheCaret) {
+  write("uno due tre");
+  select(7, 0);
+  press(Qt::Key_Backspace, {}, Qt::ControlModifier);
+  EXPECT_EQ(box().Text(), "uno  tre");
+  press(Qt::Key_Delete, {}, Qt::ControlModifier);
+  EXPECT_EQ(box().Text(), "uno tre");
+  press(Qt::Key_Delete, {}, Qt::ControlModifier);
+  EXPECT_EQ(box().Text(), "uno ");
+  expectAgreement();
+}
+
+TEST_F(QtField, ShowsASelectionOnlyWithTheFocus) {
+  write("12345");
+  select(1, 3);
+  EXPECT_EQ(line().selectedText(), "234");
+  focus(box("B"));
+  EXPECT_FALSE(line().hasSelectedText());
+}
+
+TEST_F(QtField, WhatIsSelectedWithoutTheFocusSelectsInNoOther) {
+  box("B").Text("abcdef");
+  write("12345");
+  select(1, 3);
+  line("B").setSelection(0, 5);
+  EXPECT_EQ(box().SelStart(), 1);
+  EXPECT_EQ(box().SelLength(), 3);
+  expectAgreement();
+}
+
+TEST_F(QtField, KeepsItsSelectionWhileItsWindowIsHidden) {
+  write("12345");
+  select(1, 3);
+  window->hide();
+  QApplication::processEvents();
+  window->show();
+  comeBack();
+  EXPECT_EQ(box().SelLength(), 3);
+  expectAgreement();
 }
 
 TEST_F(QtField, AnInputMethodReplacesWhatStandsBeforeTheCaret) {
@@ -151,6 +208,37 @@ TEST_F(QtField, WhatIsComposedReplacesWhatIsSelected) {
   QInputMethodEvent composing(QStringLiteral("`"), {});
   QApplication::sendEvent(&line(), &composing);
   EXPECT_EQ(box().Text(), "15");
+}
+
+TEST_F(QtField, WhatIsComposedAtOnceReplacesWhatIsSelectedInOneChange) {
+  write("12345");
+  select(1, 3);
+  std::vector<std::string> seen;
+  box().Change = [&] { seen.push_back(box().Text()); };
+  QInputMethodEvent composed;
+  composed.setCommitString(QStringLiteral("è"));
+  QApplication::sendEvent(&line(), &composed);
+  EXPECT_THAT(seen, ElementsAre("1è5"));
+}
+
+TEST_F(QtField, WhatIsComposedEndsWhereAHandlerTakesTheFocusAway) {
+  box().Change = [this] { box().Enabled(false); };
+  QInputMethodEvent composed;
+  composed.setCommitString(QStringLiteral("ab"));
+  QApplication::sendEvent(&line(), &composed);
+  EXPECT_EQ(box().Text(), "a");
+  EXPECT_THAT(reported(), IsEmpty());
+}
+
+TEST_F(QtField, NoKeyGoesWhereAHandlerSendsTheFocusOn) {
+  focus(box("Free"));
+  box("B").Text("");
+  box().GotFocus = [this] { box("B").SetFocus(); };
+  QInputMethodEvent composed;
+  composed.setCommitString(QStringLiteral("ab"));
+  QApplication::sendEvent(&line(), &composed);
+  EXPECT_TRUE(box("B").hasFocus());
+  EXPECT_EQ(box().Text() + box("B").Text() + box("Free").Text(), "");
 }
 
 TEST_F(QtField, WhatIsComposedIsSeenBeforeItIsTyped) {

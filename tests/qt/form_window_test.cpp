@@ -6,6 +6,7 @@
 #include <QTimer>
 #include <array>
 #include <functional>
+#include <stdexcept>
 
 #include "qvn/toolkit/list_view.h"
 #include "tests/qt/on_screen.h"
@@ -76,8 +77,6 @@ class QtForm : public OnScreen {
   std::unique_ptr<toolkit::Form> form = platform.makeForm(kForm, container);
 };
 
-TEST_F(QtForm, CanBeMadeSoThatNoTestOfFormsIsPassedOver) { EXPECT_TRUE(platform.capabilities().modalForms); }
-
 TEST_F(QtForm, WaitsForTheDefaultKey) {
   focus(box());
   showAnd([this] {
@@ -128,6 +127,49 @@ TEST_F(QtForm, TheCancelKeyUnloadsIt) {
   EXPECT_FALSE(form->loaded());
 }
 
+TEST_F(QtForm, NoKeyReachesThePanelsBehindIt) {
+  focus(box("B"));
+  box("B").Text("");
+  showAnd([this] {
+    for (const char* name : {"A", "B"}) {
+      QKeyEvent key(QEvent::KeyPress, Qt::Key_1, Qt::NoModifier, QStringLiteral("1"));
+      QApplication::sendEvent(&line(name), &key);
+      EXPECT_EQ(box(name).Text(), "") << name;
+    }
+    EXPECT_THAT(reported(), IsEmpty());
+    EXPECT_TRUE(rows().hasFocus());
+    window().close();
+  });
+  EXPECT_TRUE(box("B").hasFocus());
+}
+
+TEST_F(QtForm, WhatItsUnloadFailsWithGoesToTheContainer) {
+  form->Unload = [] { throw std::runtime_error("altro"); };
+  showAnd([this] { window().close(); });
+  EXPECT_FALSE(form->loaded());
+  EXPECT_THAT(reported(), ElementsAre("Rows Unload: altro"));
+}
+
+TEST_F(QtForm, StaysWhereAPersonHasMovedIt) {
+  showAnd([this] {
+    window().move(321, 123);
+    form->Caption("Altra scelta");
+    EXPECT_EQ(window().windowTitle(), "Altra scelta");
+    EXPECT_EQ(window().pos(), QPoint(321, 123));
+    window().close();
+  });
+}
+
+TEST_F(QtForm, ARowThatHasGoneShowsNothing) {
+  showAnd([this] {
+    const QModelIndex last = table().model()->index(2, 0);
+    EXPECT_EQ(last.data().toString(), "c");
+    rows().clearRows();
+    EXPECT_FALSE(last.data().isValid());
+    window().close();
+  });
+}
+
 TEST_F(QtForm, TheCancelKeyUnloadsItWhereNoFieldHasTheFocus) {
   showAnd([this] {
     QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, QStringLiteral("\x1b"));
@@ -163,6 +205,8 @@ TEST_F(QtForm, TheListTurnsItsPages) {
     press(Qt::Key_PageDown);
     EXPECT_GT(rows().selected(), 2);
     EXPECT_LT(rows().selected(), 100);
+    press(Qt::Key_PageUp);
+    EXPECT_EQ(rows().selected(), 0);
     EXPECT_THAT(disagreements(platform, form->surface()), IsEmpty());
     window().close();
   });

@@ -1,5 +1,8 @@
 // A grid before a person.
+#include <QClipboard>
+#include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QTableView>
 
 #include "qvn/toolkit/data_grid.h"
@@ -48,7 +51,22 @@ TEST_P(QtGrid, IsWalkedByTheArrowKeysAndShowsNumbersToTheRight) {
     QApplication::sendEvent(&table(), &arrow);
   }
   EXPECT_EQ(table().currentIndex(), table().model()->index(1, 1));
+  QApplication::clipboard()->clear();
+  QKeyEvent copy(QEvent::KeyPress, Qt::Key_C, Qt::ControlModifier, QStringLiteral("\x03"));
+  QApplication::sendEvent(&table(), &copy);
+  EXPECT_EQ(QApplication::clipboard()->text(), "Altra");
+  whole().show();
+  QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier, QStringLiteral("\t"));
+  QApplication::sendEvent(&table(), &tab);
+  whole().hide();
+  EXPECT_EQ(table().currentIndex(), table().model()->index(1, 1));
   EXPECT_THAT(disagreements(platform, surface()), testing::IsEmpty());
+}
+
+TEST_P(QtGrid, IsFilledByItsColumns) {
+  const int rest = table().width() - table().horizontalHeader()->length();
+  EXPECT_GE(rest, 0);
+  EXPECT_LE(rest, 2 * table().frameWidth() + table().verticalScrollBar()->sizeHint().width());
 }
 
 TEST_P(QtGrid, ForgetsItsRowsOnlyWhenItsSourceIsAskedAgain) {

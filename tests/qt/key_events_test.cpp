@@ -43,6 +43,12 @@ TEST_F(KeyEvents, ComposedAndThirdLevelCharactersAreTyped) {
   EXPECT_EQ(typed(0, QString::fromUcs4(U"\U0001F600")), "😀");
 }
 
+TEST_F(KeyEvents, WhatTypesNoCharacterThatShowsIsNoKey) {
+  EXPECT_EQ(typed(Qt::Key_unknown, "\x01"), "");
+  EXPECT_EQ(typed(Qt::Key_Insert, "\x7f"), "");
+  EXPECT_EQ(typed(Qt::Key_Dead_Grave, ""), "");
+}
+
 TEST_F(KeyEvents, ShortcutsAreNoKeys) {
   EXPECT_EQ(typed(Qt::Key_S, "\x13", Qt::ControlModifier), "");
   EXPECT_EQ(typed(Qt::Key_F, "f", Qt::AltModifier), "");

@@ -100,6 +100,18 @@ TEST_F(QtMouse, WhatIsNoTextOrComesToAFieldThatIsOffIsNotTaken) {
   EXPECT_EQ(box("Off").Text(), "");
 }
 
+TEST_F(QtMouse, ATextThatIsToBeMovedIsCopied) {
+  QMimeData text;
+  text.setText("xyz");
+  QDragEnterEvent enter(QPoint(2, 2), Qt::MoveAction, &text, Qt::LeftButton, Qt::ShiftModifier);
+  QApplication::sendEvent(&line(), &enter);
+  QDropEvent moved(QPointF(2, 2), Qt::CopyAction | Qt::MoveAction, &text, Qt::LeftButton, Qt::ShiftModifier);
+  moved.setDropAction(Qt::MoveAction);
+  QApplication::sendEvent(&line(), &moved);
+  EXPECT_EQ(box().Text(), "xyz");
+  EXPECT_EQ(moved.dropAction(), Qt::CopyAction);
+}
+
 TEST_F(QtMouse, NothingIsDroppedWhereTheFocusIsSentOn) {
   box("B").Text("");
   box().GotFocus = [this] { box("B").SetFocus(); };
@@ -111,11 +123,15 @@ TEST_F(QtMouse, NothingIsDroppedWhereTheFocusIsSentOn) {
 
 TEST_F(QtMouse, TheMenuOfTheRightButtonKeepsTheFieldsRules) {
   focus(box());
+  QApplication::clipboard()->clear();
+  EXPECT_FALSE(choose("Incolla"));
+  EXPECT_FALSE(choose("Seleziona tutto"));
   QApplication::clipboard()->setText("ab1c");
   EXPECT_FALSE(choose("Annulla digitazione"));
   EXPECT_FALSE(choose("Taglia"));
   EXPECT_TRUE(choose("Incolla"));
   EXPECT_EQ(box().Text(), "ab");
+  EXPECT_FALSE(choose("Copia"));
   EXPECT_EQ(platform.beeps(), 1);
   EXPECT_TRUE(choose("Seleziona tutto"));
   EXPECT_EQ(box().SelLength(), 2);
@@ -151,6 +167,7 @@ TEST_F(QtMouse, TheWheelOverAClosedListPicksNothingAndRollsOn) {
   QApplication::sendEvent(&shown("List"), &wheel);
   EXPECT_EQ(clicks, 0);
   EXPECT_EQ(list().ListIndex(), 1);
+  EXPECT_FALSE(wheel.isAccepted());
   expectAgreement();
 }
 
@@ -180,8 +197,12 @@ class QtClosedList : public OnScreen {
 };
 
 TEST_F(QtClosedList, IsOpenedByAltWithAnArrowToo) {
-  press(Qt::Key_Down, {}, Qt::AltModifier);
-  EXPECT_TRUE(dynamic_cast<QComboBox&>(shown("List")).view()->isVisible());
+  auto& box = dynamic_cast<QComboBox&>(shown("List"));
+  for (const int arrow : {Qt::Key_Down, Qt::Key_Up}) {
+    press(arrow, {}, Qt::AltModifier);
+    EXPECT_TRUE(box.view()->isVisible()) << arrow;
+    box.hidePopup();
+  }
   EXPECT_THAT(heard, testing::IsEmpty());
 }
 
@@ -222,6 +243,18 @@ TEST_F(QtClosedList, AnItemPickedAgainIsToldAgain) {
   heard.clear();
   pressAt(opened(), Qt::Key_Return);
   EXPECT_THAT(heard, ElementsAre("pick Due"));
+}
+
+TEST_F(QtClosedList, AnItemThatIsNotTakenIsShownNoMore) {
+  focus(box());
+  heard.clear();
+  list().GotFocus = [this] { box("B").SetFocus(); };
+  auto& shownList = dynamic_cast<QComboBox&>(shown("List"));
+  shownList.setCurrentIndex(1);
+  emit shownList.activated(1);
+  EXPECT_EQ(shownList.currentIndex(), -1);
+  EXPECT_THAT(heard, testing::Not(testing::Contains("pick Due")));
+  expectAgreement();
 }
 
 TEST_F(QtClosedList, ALeftPopupPicksNothing) {

@@ -1,6 +1,7 @@
 // A panel in a host's window.
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QLabel>
 #include <QScreen>
 
 #include "tests/qt/on_screen.h"
@@ -92,6 +93,18 @@ TEST_F(QtPanel, TabLeavesThePanelAtTheLastFieldThatCanBeReached) {
   EXPECT_EQ(QApplication::focusWidget(), hostField);
 }
 
+TEST_F(QtPanel, TabSkipsWhatHasJustBeenSwitchedOff) {
+  focus(box("Twin2"));
+  const auto second = another("second");
+  window->layout()->addWidget(&platform.widgetOf(*second));
+  QApplication::processEvents();
+  hostField->setEnabled(false);
+  focus(box("Twin2"));
+  second->textBox("Free").Enabled(false);
+  press(Qt::Key_Tab, "\t");
+  EXPECT_TRUE(second->textBox("A").hasFocus());
+}
+
 TEST_F(QtPanel, TabGoesFromPanelToPanel) {
   const auto second = another("second");
   const auto third = another("third");
@@ -144,6 +157,28 @@ TEST_F(QtPanel, TheMouseMovesTheFocusAndPushes) {
   press(Qt::Key_Space, " ");
   EXPECT_EQ(check().Value(), 0);
   expectAgreement();
+}
+
+TEST_F(QtPanel, AMarkThatIsNotTakenIsShownNoMore) {
+  focus(box());
+  box().LostFocus = [this] { box().SetFocus(); };
+  clickAt(shown("Check"), QPointF(6, shown("Check").height() / 2.0));
+  EXPECT_EQ(check().Value(), 0);
+  expectAgreement();
+}
+
+TEST_F(QtPanel, KeysThatAreNoneOfAFieldGoToTheHost) {
+  for (const char* name : {"A", "Date", "List", "Check", "Button"}) {
+    focus(panel->widget(name));
+    for (const int key : {Qt::Key_F5, Qt::Key_S}) {
+      QKeyEvent event(QEvent::KeyPress, key, key == Qt::Key_S ? Qt::ControlModifier : Qt::NoModifier);
+      QApplication::sendEvent(&shown(name), &event);
+      EXPECT_FALSE(event.isAccepted()) << name << ' ' << key;
+    }
+    QKeyEvent typed(QEvent::KeyPress, Qt::Key_1, Qt::NoModifier, QStringLiteral("1"));
+    QApplication::sendEvent(&shown(name), &typed);
+    EXPECT_TRUE(typed.isAccepted()) << name;
+  }
 }
 
 TEST_F(QtPanel, TheSpaceBarPushesAButton) {
@@ -200,6 +235,21 @@ TEST_F(QtPanel, AnotherProgramsWindowTakesTheFocusFromNoField) {
   expectAgreement();
 }
 
+TEST_F(QtPanel, WhatTheHostOpensForAMomentTakesTheFocusFromNoField) {
+  std::vector<std::string> heard;
+  box().LostFocus = [&] { heard.emplace_back("lost"); };
+  focus(box());
+  QWidget popup(nullptr, Qt::Popup);
+  auto* field = new QLineEdit(&popup);
+  popup.show();
+  QApplication::setActiveWindow(&popup);
+  field->setFocus();
+  QApplication::processEvents();
+  EXPECT_TRUE(field->hasFocus());
+  EXPECT_TRUE(box().hasFocus());
+  EXPECT_THAT(heard, testing::IsEmpty());
+}
+
 TEST_F(QtPanel, AnotherWindowOfTheHostTakesTheFocusOnceAndGivesItBackOnce) {
   std::vector<std::string> heard;
   box().LostFocus = [&] { heard.emplace_back("lost"); };
@@ -220,6 +270,23 @@ TEST_F(QtPanel, AnotherWindowOfTheHostTakesTheFocusOnceAndGivesItBackOnce) {
   expectAgreement();
 }
 
+TEST_F(QtPanel, AFieldThatWasGivenTheFocusBeforeItsWindowIsShownHasItThere) {
+  std::vector<std::string> heard;
+  const auto early = another("early");
+  early->textBox("Free").GotFocus = [&] { heard.emplace_back("got Free"); };
+  early->textBox("B").GotFocus = [&] { heard.emplace_back("got B"); };
+  early->textBox("B").LostFocus = [&] { heard.emplace_back("lost B"); };
+  QWidget second;
+  (new QVBoxLayout(&second))->addWidget(&platform.widgetOf(*early));
+  early->textBox("B").SetFocus();
+  second.show();
+  QApplication::setActiveWindow(&second);
+  QApplication::processEvents();
+  EXPECT_EQ(QApplication::focusWidget(), platform.widgetOf(static_cast<const toolkit::Widget&>(early->textBox("B"))));
+  EXPECT_THAT(heard, ElementsAre("got B"));
+  platform.widgetOf(*early).setParent(nullptr);
+}
+
 TEST_F(QtPanel, AFieldThatIsSwitchedOffLosesTheFocusToNobody) {
   focus(box());
   box().Enabled(false);
@@ -237,6 +304,25 @@ TEST_F(QtPanel, MayBeDroppedByTheKeyThatItIsTyping) {
   EXPECT_EQ(window->findChildren<QWidget*>("panel").size(), 0);
 }
 
+TEST_F(QtPanel, KeysThatComeAfterItWasDroppedDoNothing) {
+  for (const char* name : {"List", "Check", "Button", "A"}) {
+    auto dropped = another("dropped");
+    QWidget& whole = platform.widgetOf(*dropped);
+    window->layout()->addWidget(&whole);
+    QApplication::processEvents();
+    QWidget& widget = *platform.widgetOf(static_cast<const toolkit::Widget&>(dropped->widget(name)));
+    dropped->textBox("Free").KeyPress = [&](std::int16_t&) { dropped.reset(); };
+    dropped->textBox("Free").SetFocus();
+    QApplication::processEvents();
+    write("1");
+    ASSERT_EQ(dropped, nullptr);
+    QKeyEvent late(QEvent::KeyPress, Qt::Key_Down, Qt::NoModifier);
+    QApplication::sendEvent(&widget, &late);
+    EXPECT_THAT(reported(), testing::IsEmpty());
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+}
+
 TEST_F(QtPanel, StandsOnWithoutTheWindowThatItWasPlacedIn) {
   box().Text("prima");
   window.reset();
@@ -247,6 +333,31 @@ TEST_F(QtPanel, StandsOnWithoutTheWindowThatItWasPlacedIn) {
   platform.widgetOf(*panel).setParent(window.get());
   window->show();
   EXPECT_EQ(line().text(), "dopo");
+}
+
+TEST_F(QtPanel, IsPlacedHiddenOrShownAsThePanelSaysBefore) {
+  const auto hidden = another("hidden");
+  hidden->Visible(false);
+  const auto shown = another("shown");
+  shown->Visible(false);
+  QApplication::processEvents();
+  shown->Visible(true);
+  QApplication::processEvents();
+  EXPECT_FALSE(platform.widgetOf(*shown).isVisible());
+  for (const auto* one : {&hidden, &shown}) window->layout()->addWidget(&platform.widgetOf(**one));
+  QApplication::processEvents();
+  EXPECT_FALSE(platform.widgetOf(*hidden).isVisible());
+  EXPECT_TRUE(platform.widgetOf(*shown).isVisible());
+}
+
+TEST_F(QtPanel, ALabelOfTwoLinesWrapsItsCaption) {
+  const toolkit::Place place = panel->label("Label").place();
+  panel->label("Label").place({place.left, place.top, place.width, 3 * place.height});
+  panel->label("Label").Caption("Una didascalia molto più lunga del suo posto");
+  platform.settle();
+  EXPECT_TRUE(dynamic_cast<QLabel&>(shown("Label")).wordWrap());
+  EXPECT_EQ(shown("Label").font().stretch(), QFont::Unstretched);
+  EXPECT_EQ(shown("Label").toolTip(), QStringLiteral("Spiegazione"));
 }
 
 TEST_F(QtPanel, HidesAndShowsAsThePanelSays) {

@@ -59,6 +59,18 @@ TEST_F(QtPlacedPanel, GoesIntoALayoutAndIsTypedInto) {
   EXPECT_EQ(iva->size(), iva->childrenRect().size());
 }
 
+TEST_F(QtPlacedPanel, ShowsNothingOfAPanelThatIsHidden) {
+  PlacedPanel* iva = place("ctlIVA");
+  window->setCentralWidget(iva);
+  iva->panel().surface().Visible(false);
+  show();
+  EXPECT_TRUE(iva->isVisible());
+  EXPECT_FALSE(platform.widgetOf(iva->panel().surface()).isVisible());
+  iva->panel().surface().Visible(true);
+  QApplication::processEvents();
+  EXPECT_TRUE(platform.widgetOf(iva->panel().surface()).isVisible());
+}
+
 TEST_F(QtPlacedPanel, IsReadWrittenAndCalledByName) {
   PlacedPanel* iva = place("ctlIVA");
   EXPECT_TRUE(iva->setValue(QStringLiteral("IVA"), 250));

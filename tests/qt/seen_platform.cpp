@@ -10,22 +10,6 @@
 
 namespace qvn::test {
 
-namespace {
-
-/// Looks when an act is over, and when it has failed.
-class Afterwards {
- public:
-  explicit Afterwards(const Eyes& eyes) : eyes_(eyes) {}
-  ~Afterwards() { eyes_.look(); }
-  Afterwards(const Afterwards&) = delete;
-  Afterwards& operator=(const Afterwards&) = delete;
-
- private:
-  const Eyes& eyes_;
-};
-
-}  // namespace
-
 void Eyes::lookAt(const toolkit::Surface& surface) const {
   EXPECT_THAT(disagreements(platform_, surface), testing::IsEmpty());
 }
@@ -80,46 +64,6 @@ void Eyes::refresh(const memory::Form& form) {
 void Eyes::waitAt(const memory::Form& form, const bool& over) {
   screen_.waitAt(form, over);
   if (!over) look();
-}
-
-void SeenHands::focus(toolkit::Widget& widget) {
-  const Afterwards afterwards(eyes_);
-  hands_.focus(widget);
-}
-
-void SeenHands::leave() {
-  const Afterwards afterwards(eyes_);
-  hands_.leave();
-}
-
-void SeenHands::type(std::string_view keys) {
-  const Afterwards afterwards(eyes_);
-  hands_.type(keys);
-}
-
-void SeenHands::caret(std::int32_t start, std::int32_t length) {
-  const Afterwards afterwards(eyes_);
-  hands_.caret(start, length);
-}
-
-void SeenHands::paste(std::string_view text) {
-  const Afterwards afterwards(eyes_);
-  hands_.paste(text);
-}
-
-void SeenHands::click(toolkit::Widget& widget) {
-  const Afterwards afterwards(eyes_);
-  hands_.click(widget);
-}
-
-void SeenHands::choose(toolkit::ComboBox& list, std::int32_t index) {
-  const Afterwards afterwards(eyes_);
-  hands_.choose(list, index);
-}
-
-void SeenHands::choose(toolkit::ComboBox& list, std::string_view item) {
-  const Afterwards afterwards(eyes_);
-  hands_.choose(list, item);
 }
 
 SeenPlatform::SeenPlatform() : qt::Platform(qt::Display::Offscreen) {

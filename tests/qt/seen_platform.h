@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "platforms/guarded_hands.h"
 #include "platforms/memory/stage.h"
 #include "platforms/qt/platform.h"
 
@@ -39,28 +40,20 @@ class Eyes final : public memory::Stage {
   std::vector<const memory::Surface*> standing_;
 };
 
-/// Hands after each of whose acts all is looked at: it is to be on the screen by then.
-class SeenHands final : public Operator {
+/// Looks when an act is over, and when it has failed.
+class Afterwards {
  public:
-  SeenHands(Operator& hands, const Eyes& eyes) : hands_(hands), eyes_(eyes) {}
-
-  void focus(toolkit::Widget& widget) override;
-  void leave() override;
-  void type(std::string_view keys) override;
-  void caret(std::int32_t start, std::int32_t length) override;
-  void paste(std::string_view text) override;
-  void click(toolkit::Widget& widget) override;
-  void choose(toolkit::ComboBox& list, std::int32_t index) override;
-  void choose(toolkit::ComboBox& list, std::string_view item) override;
-  void layDown(std::string_view form, std::vector<Act> acts) override { hands_.layDown(form, std::move(acts)); }
-  std::vector<FailedAct> failedActs() override { return hands_.failedActs(); }
-  void takePictures(bool take) override { hands_.takePictures(take); }
-  std::vector<FormPicture> shown() override { return hands_.shown(); }
+  explicit Afterwards(const Eyes& eyes) : eyes_(eyes) {}
+  ~Afterwards() { eyes_.look(); }
+  Afterwards(const Afterwards&) = delete;
+  Afterwards& operator=(const Afterwards&) = delete;
 
  private:
-  Operator& hands_;
   const Eyes& eyes_;
 };
+
+/// Hands after each of whose acts all is looked at: it is to be on the screen by then.
+using SeenHands = GuardedHands<Afterwards, const Eyes>;
 
 class SeenPlatform final : public qt::Platform {
  public:

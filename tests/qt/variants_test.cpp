@@ -40,6 +40,11 @@ TEST(QtVariants, AmountsAreExactAndTellTheirText) {
   EXPECT_EQ(qt::toQt(Decimal::of({125, 0, 0}, 1, false)).toString(), QStringLiteral("12,5"));
 }
 
+TEST(QtVariants, ADateThatIsNoneIsNull) {
+  EXPECT_EQ(qt::fromQt(QVariant(QDate())), Variant(Null{}));
+  EXPECT_EQ(qt::fromQt(QVariant(QDate(2026, 2, 30))), Variant(Null{}));
+}
+
 TEST(QtVariants, LongIntegersStayExact) {
   EXPECT_EQ(qt::fromQt(QVariant(qlonglong{9'007'199'254'740'993})), Variant(Decimal::of(9'007'199'254'740'993)));
 }

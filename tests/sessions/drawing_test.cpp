@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "hosts/play/canvas.h"
 #include "hosts/play/rows.h"
 #include "tests/sessions/laid_out.h"
 
@@ -110,7 +111,7 @@ TEST_F(Drawing, TellsWhichLabelsAreDisabledByThemselves) {
        .caption = "Età:",
        .align = Align::Right,
        .enabled = false},
-      {.name = "Label4", .kind = WidgetKind::Label, .place = {2400, 0, 150, 315}, .enabled = false},
+      {.name = "Label4", .kind = WidgetKind::Label, .place = {2850, 0, 150, 315}, .enabled = false},
       {.name = "Text1", .place = {2400, 0, 375, 315}, .caption = "7"},
   }};
   toolkit::Surface& panel = place(widgets);
@@ -154,6 +155,25 @@ TEST_F(Drawing, LetsFieldsWinOverCaptionsInWhateverOrderTheyStand) {
       {.name = "Text2", .place = {1650, 0, 390, 315}, .caption = "40"},
   }};
   EXPECT_THAT(drawn(place(widgets)), ElementsAre("   Saldo: │22 │ Ded.: │40 │"));
+}
+
+TEST_F(Drawing, LetsAFieldWinOverTheCaptionThatBeginsUnderIt) {
+  static constexpr std::array<WidgetLayout, 2> widgets{{
+      {.name = "Text1", .place = {0, 0, 600, 315}, .caption = "22"},
+      {.name = "Label1", .kind = WidgetKind::Label, .place = {0, 0, 900, 315}, .caption = "ABCDEFGHIJKL"},
+  }};
+  EXPECT_THAT(drawn(place(widgets)), ElementsAre("│22DEFG│IJKL"));
+}
+
+TEST_F(Drawing, CutsWhatLiesToTheLeftOfThePanel) {
+  static constexpr std::array<WidgetLayout, 1> widgets{{
+      {.name = "Text1", .place = {-100, 0, 750, 315}, .caption = "uno"},
+  }};
+  EXPECT_THAT(drawn(place(widgets)), ElementsAre("uno     │"));
+}
+
+TEST_F(Drawing, ShowsCharactersThatDoNotPrintAsDots) {
+  EXPECT_THAT(charactersOf("a\x7F\tè\x1F"), ElementsAre("a", "·", "·", "è", "·"));
 }
 
 TEST_F(Drawing, PutsTheBoxOfACheckBoxAtTheRightBehindItsCaption) {

@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "hosts/play/form_picture.h"
 #include "tests/sessions/laid_out.h"
 
 namespace qvn::play {
@@ -132,6 +133,13 @@ TEST_F(Picture, OfADate) {
   date.SelStart(3);
   date.SelLength(2);
   EXPECT_EQ(of("Date1"), std::string(common).append(R"("text":"15/11/2026","value":"15/11/2026","sel":[3,2]})"));
+}
+
+TEST(PictureOfAForm, HasNoRowsWhereTheFormHasNone) {
+  EXPECT_EQ(pictureOf(FormPicture{.form = "Ricerca", .caption = "Attendere"}).dump(),
+            R"({"form":"Ricerca","caption":"Attendere"})");
+  EXPECT_EQ(pictureOf(FormPicture{.form = "Lista", .caption = "Listato", .shows = FormPicture::Shows::List}).dump(),
+            R"({"form":"Lista","caption":"Listato","columns":[],"rows":[],"selected":-1})");
 }
 
 }  // namespace

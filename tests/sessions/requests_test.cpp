@@ -49,6 +49,13 @@ TEST_F(Requests, ClickCheckBoxesAndButtons) {
   EXPECT_TRUE(panel_.button("Button1").hasFocus());
 }
 
+TEST_F(Requests, ShowShowsUnlessItIsToldToHide) {
+  EXPECT_THAT(play(R"({"do":"show","panel":"t","visible":false})"), IsOk());
+  EXPECT_FALSE(panel_.Visible());
+  EXPECT_THAT(play(R"({"do":"show","panel":"t"})"), IsOk());
+  EXPECT_TRUE(panel_.Visible());
+}
+
 TEST_F(Requests, CallAddsAValueWhereThereIsOne) {
   EXPECT_EQ(play(R"({"do":"call","panel":"t","name":"somma","args":[2,"3"]})").dump(),
             R"({"ok":true,"value":5,"args":[2,"3"]})");

@@ -40,6 +40,8 @@ TEST_F(PlayedSession, SurvivesEndlessNesting) {
     for (int i = 0; i < 100'000; ++i) line += open;
     EXPECT_THAT(play(line), IsBadRequest());
   }
+  EXPECT_THAT(play(std::string(66, '[') + std::string(66, ']')),
+              FailsAs("bad request", "line 3: no JSON object: nested too deeply"));
   const std::string nested = std::string(60, '[') + std::string(60, ']');
   EXPECT_THAT(play(R"({"do":"new","panel":"p","class":"ctlIVA"})"), IsOk());
   EXPECT_THAT(play(R"({"do":"let","panel":"p","name":"IVA","value":)" + nested + "}"), IsBadRequest());

@@ -124,6 +124,12 @@ INSTANTIATE_TEST_SUITE_P(
                          R"([[{"currency":"1.0000"}],[{"currency":"2.0000"}]])"},
                     Back{CurrencyArray{{2, 0}, {}}, "[[],[]]"}));
 
+TEST(Excerpt, EndsBetweenCharacters) {
+  const std::string before(119, 'a');
+  EXPECT_EQ(shortened(before + "è"), before + "…");
+  EXPECT_EQ(shortened(before + "e"), before + "e");
+}
+
 TEST(DecimalValue, KeepsItsScaleThereAndBack) {
   for (const std::string text :
        {"12.50", "12.5", "0.0", "-0.10", "100", "79228162514264337593543950335", "0.0000000000000000000000000001"}) {

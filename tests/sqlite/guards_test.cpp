@@ -192,6 +192,14 @@ TEST(Guards, KeepAViewFromWhatAStatementMayNot) {
             "the statement cannot be run: unsafe use of load_extension(); Select R From V");
 }
 
+TEST(FailedStatements, AreQuotedUpToAWholeCharacter) {
+  const ScratchFolder folder;
+  const auto session = opened(officeFile(folder));
+  const std::string begins = "Select " + std::string(992, 'x');
+  const std::string message = databaseFailureOf([&] { session->run({.sql = begins + "è From Nowhere"}); });
+  EXPECT_TRUE(message.ends_with("; " + begins + "…")) << message;
+}
+
 const std::string kBigSort = counted(60'000) + "Select printf('%0600d', N) AS A From C Order By A Desc";
 
 TEST(Sorting, OfMuchNeedsNoFile) {

@@ -122,7 +122,10 @@ TEST(Like, RefusesWhatItHasNoTimeFor) {
   EXPECT_NE(failureOf("Select 'x' Like '" + std::string(1'001, 'x') + "'"), "");
   EXPECT_EQ(failureOf("Select 'x' Like '" + std::string(1'000, 'x') + "'"), "");
   EXPECT_NE(failureOf("Select hex(zeroblob(300000)) Like '%" + std::string(900, '0') + "1'"), "");
-  EXPECT_NE(failureOf("Select 'x' Like 'x' Escape 'ab'"), "");
+  for (const char* escape : {"ab", "èè", ""}) {
+    EXPECT_NE(failureOf(std::string("Select 'x' Like 'x' Escape '").append(escape).append("'")), "") << escape;
+    EXPECT_NE(failureOf(std::string("Select 'x' Like '_' Escape '").append(escape).append("'")), "") << escape;
+  }
 }
 
 }  // namespace

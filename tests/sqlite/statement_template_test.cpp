@@ -113,6 +113,14 @@ TEST(StatementTemplate, LeavesLiteralsWhereToldSo) {
   EXPECT_TRUE(statement.literals().empty());
 }
 
+TEST(StatementTemplate, TakesBackItsOwnSpellingAlone) {
+  StatementTemplate statement;
+  statement.read("Select A/2 From T Where B Like '_x'", true);
+  EXPECT_EQ(statement.asWritten(statement.text()), "Select A/2 From T Where B Like '_x'");
+  statement.read("Select rEgExP From T", true);
+  EXPECT_EQ(statement.asWritten("no such column: rEgExP"), "no such column: rEgExP");
+}
+
 TEST(Tokens, FollowEachOtherWithoutGaps) {
   struct Part {
     TokenKind kind;
