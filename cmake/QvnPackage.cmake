@@ -39,9 +39,26 @@ foreach(header IN LISTS headers)
   install(FILES ${header} DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/${folder})
 endforeach()
 
-foreach(program qvn_play qvn_campione qvn_ufficio)
-  if(TARGET ${program})
-    install(TARGETS ${program} COMPONENT office)
+find_program(gzip gzip)
+
+# qvn_manual_page(PROGRAM): installs docs/man/PROGRAM.1, compressed as is usual where that can be done.
+function(qvn_manual_page program)
+  set(page ${PROJECT_SOURCE_DIR}/docs/man/${program}.1)
+  if(gzip)
+    execute_process(COMMAND ${gzip} -9nc ${page} OUTPUT_FILE ${PROJECT_BINARY_DIR}/man/${program}.1.gz
+      COMMAND_ERROR_IS_FATAL ANY)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${page})
+    set(page ${PROJECT_BINARY_DIR}/man/${program}.1.gz)
+  endif()
+  install(FILES ${page} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT office)
+endfunction()
+
+file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/man)
+foreach(program qvn-play qvn-campione qvn-ufficio)
+  string(REPLACE "-" "_" target ${program})
+  if(TARGET ${target})
+    install(TARGETS ${target} COMPONENT office)
+    qvn_manual_page(${program})
   endif()
 endforeach()
 

@@ -1,7 +1,6 @@
 # Debian packages, which `cpack` in the build folder makes: libqvn0, libqvn-dev and qvn-ufficio, as far as they were
 # built. Each is what was installed under one component.
 
-find_program(gzip gzip)
 if(NOT gzip)
   return()
 endif()
@@ -58,6 +57,7 @@ headers for hosts in C++ and C, and what CMake and pkg-config find them by.")
 
 if(TARGET qvn_ufficio)
   install(PROGRAMS cmake/debian/qvn-prova DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT office)
+  qvn_manual_page(qvn-prova)
   install(FILES cmake/debian/qvn-ufficio.desktop DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/applications COMPONENT office)
   install(FILES cmake/debian/qvn-ufficio.svg
     DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/icons/hicolor/scalable/apps COMPONENT office)

@@ -12,7 +12,11 @@ const char* const usage =
     "  --scale N     N times the clients and policies, 1 to 250; 1 is 2,000 clients and 5,000 policies\n"
     "  --storage S   how amounts are stored: numeric (whole ones as integers), real or text; numeric if not said\n"
     "  --force       replace FILE if it is there\n"
-    "  --help        show this and do nothing else\n";
+    "  --help        show this and do nothing else\n"
+    "exit status:\n"
+    "  0  the database is written\n"
+    "  1  it could not be written, or FILE is there and --force was not given\n"
+    "  2  the command line was wrong\n";
 
 namespace {
 

@@ -69,6 +69,13 @@ if(NOT EXISTS "${root}/usr/share/icons/hicolor/scalable/apps/${icon}.svg")
   message(FATAL_ERROR "There is no icon ${icon}")
 endif()
 
+file(GLOB programs RELATIVE "${root}/usr/bin" "${root}/usr/bin/*")
+foreach(program IN LISTS programs)
+  if(NOT EXISTS "${root}/usr/share/man/man1/${program}.1.gz")
+    message(FATAL_ERROR "${program} has no manual page")
+  endif()
+endforeach()
+
 # Hosts in C++ and in C, of what the packages for them have laid down.
 everything_runs("${root}/usr" "${work}/everything")
 if(component)
