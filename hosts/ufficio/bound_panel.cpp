@@ -32,7 +32,10 @@ void update(Store& store, std::string_view table, const Row& before, const Row& 
     columns.push_back(after.columns[i]);
     parameters.push_back(after.values[i]);
   }
-  if (columns.empty()) return;
+  if (columns.empty()) {  // what stands there is written once more, to find out whether it still does
+    columns.push_back(after.columns.front());
+    parameters.push_back(after.values.front());
+  }
   parameters.insert(parameters.end(), before.values.begin(), before.values.end());
   int place = 0;
   std::string sql = std::string("UPDATE ").append(table).append(" SET ");

@@ -7,7 +7,7 @@ bool FieldFocus::leave() {
   chooser_.focusRecords();
   // In a window that is not the active one, no change of the focus is heard of.
   if (platform_.focused() != nullptr) attempt_("Il campo non si può lasciare", [this] { platform_.hands().leave(); });
-  return failures_ == 0;
+  return failures_ == 0 && !leftBadly_;
 }
 
 void FieldFocus::goBack() {

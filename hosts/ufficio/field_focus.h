@@ -17,11 +17,18 @@ class FieldFocus {
       : platform_(platform), chooser_(chooser), attempt_(attempt) {}
 
   /// To be told of each field of the panels that the focus goes to.
-  void goneTo(QWidget* field) { field_ = field; }
-  /// To be told of each handler of the panels that fails.
-  void handlerFailed() { ++failures_; }
+  void goneTo(QWidget* field) {
+    field_ = field;
+    leftBadly_ = false;
+  }
+  /// To be told of each handler of the panels that fails, and whether it was that of leaving a field.
+  void handlerFailed(bool ofLeaving) {
+    ++failures_;
+    leftBadly_ = leftBadly_ || ofLeaving;
+  }
 
-  /// Takes the focus from the panels, so that the field is left as by hand. False if that failed.
+  /// Takes the focus from the panels, so that the field is left as by hand. False if that failed, or had failed when
+  /// the operator left them.
   bool leave();
   /// Goes to the field that had the focus last, if it is still there.
   void goBack();
@@ -32,6 +39,7 @@ class FieldFocus {
   const Attempts& attempt_;
   QPointer<QWidget> field_;
   int failures_ = 0;
+  bool leftBadly_ = false;
 };
 
 }  // namespace qvn::ufficio

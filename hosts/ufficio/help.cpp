@@ -30,8 +30,9 @@ constexpr std::array kTexts{
          "produttore alternativo.</p>"
          "<p>In alto stanno la quota e i premi che ne seguono. Si scrive una <b>percentuale</b> e l'importo la segue a "
          "ogni tasto. Un <b>importo</b> scritto a mano resta solo dove la percentuale è 0. «Calcola su» dice di che "
-         "cosa sono le percentuali di un produttore: dei premi o della provvigione dell'ufficio. Da un elenco si esce "
-         "con Tab, da un campo anche con Invio.</p>"
+         "cosa sono le percentuali di un produttore: dei premi o della provvigione dell'ufficio; quando la si lascia, "
+         "gli importi di quel produttore si ricalcolano tutti, e dove la percentuale è 0 diventano 0. Da «Calcola su» "
+         "si esce con Tab, da un campo anche con Invio.</p>"
          "<p>I totali e la ritenuta d'acconto si aggiornano quando si lascia un campo. "
          "Si salvano i nove importi e le nove percentuali.</p>"},
     Text{
@@ -44,8 +45,8 @@ constexpr std::array kTexts{
         "<p>Nei campi dei codici il tasto <b>?</b> apre l'elenco: quello che è già scritto ne è l'inizio, e con "
         "<b>!</b> davanti l'inizio della descrizione. Invio sceglie, Esc rinuncia.</p>"},
     Text{"quote-sinistri",
-         "<p>Le compagnie che partecipano a un sinistro, un pannello per ciascuna, con la quota in millesimi del danno "
-         "stimato e di quello liquidato.</p>"
+         "<p>Le compagnie che partecipano a un sinistro, un pannello per ciascuna: la quota in millesimi, e quanto ne "
+         "segue del danno stimato e di quello liquidato.</p>"
          "<p><b>Nuovo</b> aggiunge un partecipante, <b>Elimina</b> toglie quello in cui si scrive; entrambi hanno "
          "effetto quando si salva. Nel campo della compagnia il tasto <b>?</b> apre l'elenco.</p>"},
     Text{"sospesi",
@@ -68,7 +69,8 @@ constexpr std::array kTexts{
         "<p>Qui non si scrive nulla. Frecce e Pag↑ Pag↓ scorrono i risultati, Inizio e Fine vanno al primo e "
         "all'ultimo; i pulsanti mostrano le compagnie e i produttori.</p>"},
     Text{"ricerca-sinistri",
-         "<p>Cerca tra i sinistri mentre si scrive: numero, polizza, cliente. Ogni sinistro trovato ha il suo "
+         "<p>Cerca tra i sinistri mentre si scrive: numero, polizza, cliente, controparte, stato. Ogni sinistro "
+         "trovato ha il suo "
          "pannello.</p>"
          "<p>Qui non si scrive nulla. Frecce e Pag↑ Pag↓ scorrono i risultati, Inizio e Fine vanno al primo e "
          "all'ultimo; il pulsante mostra le compagnie.</p>"},

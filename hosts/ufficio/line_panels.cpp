@@ -85,13 +85,17 @@ std::vector<Row> LinePanels::read(Store& store, const Value& record) const {
   return store.rows(sql, std::array{record});
 }
 
-void LinePanels::write(Store& store, const Value& record, std::span<const Row> lines) const {
+void LinePanels::requireUnchanged(Store& store, const Value& record) const {
   std::vector<std::vector<Value>> before;
   before.reserve(panels_.size());
   for (const BoundPanel& bound : panels_) {
     if (bound.row() && !bound.row()->isNew) before.push_back(bound.row()->values);
   }
   if (!std::ranges::equal(read(store, record), before, {}, &Row::values)) throw ChangedByOthers();
+}
+
+void LinePanels::write(Store& store, const Value& record, std::span<const Row> lines) const {
+  requireUnchanged(store, record);
   store.run(
       std::string("DELETE FROM ").append(description_.table).append(" WHERE ").append(description_.key).append(" = ?1"),
       std::array{record});

@@ -48,6 +48,8 @@ class LinePanels {
   std::vector<Row> lines() const;
   /// The table's lines of a record, by their numbers.
   std::vector<Row> read(Store& store, const Value& record) const;
+  /// ChangedByOthers if the table does not hold the lines that are shown any more as they were read.
+  void requireUnchanged(Store& store, const Value& record) const;
   /// Writes lines as those of the record, in the place of those that are shown and were read. ChangedByOthers if the
   /// table does not hold them any more as they were read.
   void write(Store& store, const Value& record, std::span<const Row> lines) const;

@@ -99,10 +99,12 @@ void RecordScreen::write(Store& store, const BoundPanel& panel) const {
   if (!description_.needed.column.empty()) {
     const Row row = panel.toBeStored();
     const Value& needed = row.at(description_.needed.column);
-    if (textOf(needed).empty() || (row.isNew && needed == Value(std::int64_t{0}))) {
+    const bool untouched = !row.isNew && needed == panel.row()->at(description_.needed.column);
+    if (textOf(needed).empty() || (!untouched && needed == Value(std::int64_t{0}))) {
       throw StoreFailure("manca " + std::string(description_.needed.called));
     }
   }
+  if (!panel.row()->isNew && keyOf(panel.toBeStored()) != keyOf(*panel.row())) requireUnused(store);
   panel.write(store, description_.table);
 }
 
@@ -158,21 +160,31 @@ void RecordScreen::removeRow(const Panel& panel) {
   its->remove();
 }
 
-void RecordScreen::remove(Store& store) {
-  Store::Transaction transaction(store);
+Key RecordScreen::keyOf(const Row& row) const {
+  Key key;
+  key.reserve(description_.key.size());
+  for (const std::string_view column : description_.key) key.push_back(row.at(column));
+  return key;
+}
+
+void RecordScreen::requireUnused(Store& store) const {
   for (const Use& use : description_.uses) {
     if (!store.hasTable(use.table)) continue;
     std::string sql = std::string("SELECT 1 FROM ").append(use.table).append(" WHERE ").append(use.column);
     if (store.rows(sql.append(" = ?1 LIMIT 1"), key_).empty()) continue;
     throw StoreFailure(std::string("il record è ancora usato da ").append(use.called));
   }
+}
+
+void RecordScreen::remove(Store& store) {
+  Store::Transaction transaction(store);
+  requireUnused(store);
   erase(store, panels_.front());
   transaction.commit();
   forget();
 }
 
 Key RecordScreen::save(Store& store) {
-  Key key;
   Store::Transaction transaction(store);
   // What goes makes room for what comes with its code.
   for (const BoundPanel& bound : panels_) {
@@ -186,9 +198,7 @@ Key RecordScreen::save(Store& store) {
     return key_;
   }
   const BoundPanel& front = panels_.front();
-  const Row first = front.removed() ? front.row().value() : front.toBeStored();
-  key.reserve(description_.key.size());
-  for (const std::string_view column : description_.key) key.push_back(first.at(column));
+  Key key = keyOf(front.removed() ? front.row().value() : front.toBeStored());
   transaction.commit();
   return key;
 }

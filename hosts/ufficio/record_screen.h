@@ -44,7 +44,7 @@ struct RecordDescription {
   Needed needed = {};
   /// The columns of a new row that are no key's and no field's, all of them amounts.
   std::span<const std::string_view> others = {};
-  /// Where a record is referred to, which is not deleted then.
+  /// Where a record is referred to, which is not deleted then, and keeps its code.
   std::span<const Use> uses = {};
 };
 
@@ -93,6 +93,9 @@ class RecordScreen : public Screen {
 
  private:
   void addPanel();
+  Key keyOf(const Row& row) const;
+  /// StoreFailure if other tables refer to the record that is shown.
+  void requireUnused(Store& store) const;
 
   const RecordDescription description_;
   const ScreenSite site_;

@@ -21,7 +21,7 @@ bool removeRow(RecordDesk& desk, const AskToGoOn& ask) {
     tools.notice.tell("Prima di eliminare una riga bisogna andare in uno dei suoi campi.");
     return false;
   }
-  if (!ask("Eliminare questa riga? Sarà tolta dal database quando si salva.")) return false;
+  if (!ask("Eliminare questa riga? La modifica ha effetto quando si salva.")) return false;
   QWidget* field = fieldOfNeighbour(tools.platform, panels, QApplication::focusWidget(), true);
   if (field == nullptr) field = fieldOfNeighbour(tools.platform, panels, QApplication::focusWidget(), false);
   if (field == nullptr) {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <algorithm>
 
@@ -30,7 +31,11 @@ Window::Window(qt::Platform& platform, Store& store, std::span<const ScreenClass
              .attempt = attempt_,
              .field = field_,
              .showState = [this] { showState(); },
-             .ask = [this](const QString& record) { return ask_(record); }}) {
+             .ask =
+                 [this](const QString& record) {
+                   const QScopedValueRollback asking(asking_, true);
+                   return ask_(record);
+                 }}) {
   ask_ = [this](const QString& record) { return askInWindow(*this, record); };
   askRemoval_ = [this](const QString& question) { return askToRemoveInWindow(*this, question); };
   askFile_ = [this](const QString& name) { return askFileInWindow(*this, name); };
@@ -126,7 +131,13 @@ bool Window::chooseScreen(std::size_t number) {
 
 bool Window::add() { return commands_[Command::Add].isEnabled() && addAt(desk_); }
 
-bool Window::remove() { return commands_[Command::Remove].isEnabled() && removeAt(desk_, askRemoval_); }
+bool Window::remove() {
+  const auto ask = [this](const QString& question) {
+    const QScopedValueRollback asking(asking_, true);
+    return askRemoval_(question);
+  };
+  return commands_[Command::Remove].isEnabled() && removeAt(desk_, ask);
+}
 
 void Window::help() {
   const QString title = desk_.shown() == nullptr ? QString("Ufficio") : qt::shown(desk_.shown()->made->title);
@@ -175,7 +186,8 @@ void Window::closeEvent(QCloseEvent* event) {
 
 void Window::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() != QEvent::ActivationChange || !isActiveWindow() || editing()) return;
+  // What the operator is asked about is what stands there.
+  if (event->type() != QEvent::ActivationChange || !isActiveWindow() || editing() || asking_) return;
   if (store_.othersWrote()) renew();
 }
 
@@ -194,7 +206,7 @@ void Window::showState() {
 
 void Window::tellFailure(const QString& panel, const QString& widget, const QString& event, const QString& message,
                          FailureKind kind) {
-  field_.handlerFailed();
+  field_.handlerFailed(event == QLatin1String("LostFocus"));
   // When the handler is done.
   QMetaObject::invokeMethod(
       this,

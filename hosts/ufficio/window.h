@@ -88,6 +88,7 @@ class Window final : public QMainWindow {
   AskUnsaved ask_;
   AskFile askFile_;
   AskToGoOn askRemoval_;
+  bool asking_ = false;
   QSettings* settingsFile_ = nullptr;
   std::vector<ShownScreen> screens_;
 

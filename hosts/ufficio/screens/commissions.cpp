@@ -1,5 +1,6 @@
 // The commission of a policy's participants: ctlPROV_POLIZZE on QUOTE_POLIZZE, in the policy's current family of
 // amounts, and on the percents that the office keeps beside it.
+#include <algorithm>
 #include <array>
 #include <optional>
 
@@ -76,6 +77,16 @@ class Commissions final : public RecordScreen {
  public:
   explicit Commissions(const ScreenSite& site) : RecordScreen(kCommissions, site) {}
 
+  /// Leaving a list of bases makes stored amounts 0 where no percent is stored with them, which is easily overlooked.
+  std::string remark() const override {
+    if (key().empty()) return {};
+    const auto gone = std::ranges::count_if(fields_, [&](const Field& field) {
+      return amountOf(row_.at(field.column)) != Currency() && isZero(field.property);
+    });
+    if (gone == 0) return {};
+    return std::string("Importi salvati che ora sono 0: ").append(std::to_string(gone)).append(". Annulla li riporta.");
+  }
+
  protected:
   void show(Store& store, BoundPanel& bound, const Row& row) override {
     const std::vector<Row> policies = store.rows("SELECT * FROM POLIZZE WHERE PROT = ?1", std::array{row.at("PROT")});
@@ -94,7 +105,9 @@ class Commissions final : public RecordScreen {
     letByName(panel, "QUOTA", shown(row.at("QUOTA"), Kind::Number));
     panel.Disattiva();  // a producer's code has enabled his fields
     showPercents(panel);
-    bound.show(row, isTrf ? std::span<const Field>(kTrf) : kTaf);
+    row_ = row;
+    fields_ = isTrf ? std::span<const Field>(kTrf) : kTaf;
+    bound.show(row, fields_);
     panel.TOTALI();
     asShown_ = percentsIn(panel);
   }
@@ -118,12 +131,22 @@ class Commissions final : public RecordScreen {
   }
 
  private:
+  bool isZero(std::string_view property) const {
+    try {
+      return getByName(*panels().front(), property) == Variant(Currency());
+    } catch (const Failure&) {
+      return false;  // told when it is stored
+    }
+  }
+
   void showPercents(Panel& panel) const {
     for (const Field& field : kPercentFields) {
       letByName(panel, field.property, shown(percents_.at(field.column), field.kind));
     }
   }
 
+  Row row_;  // as it was read
+  std::span<const Field> fields_;
   Row percents_;  // as they were read
   Percents asShown_;
 };

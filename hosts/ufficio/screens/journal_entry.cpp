@@ -166,7 +166,11 @@ class JournalEntry final : public Screen {
     Store::Transaction transaction(store);
     const bool isNew = std::get<std::int64_t>(key_.front()) <= 0;
     const Value number = isNew ? nextNumber(store) : key_.front();
-    if (isNew || lines_.changed()) lines_.write(store, number, lines);
+    if (isNew || lines_.changed()) {
+      lines_.write(store, number, lines);
+    } else {
+      lines_.requireUnchanged(store, number);
+    }
     if (vat_.changed()) writeVat(store, number);
     transaction.commit();
     return {number};

@@ -130,6 +130,9 @@ class JournalPrint final : public Screen, private Printing {
     if (textOf(header.at("A_DATA")) < textOf(header.at("DA_DATA"))) {
       throw StoreFailure("l'ultimo giorno manca o viene prima del primo");
     }
+    if (textOf(header.at("A_DATA")).substr(0, 4) != textOf(header.at("DA_DATA")).substr(0, 4)) {
+      throw StoreFailure("l'ultimo giorno non è dell'anno che si stampa");
+    }
     Store::Transaction transaction(store);
     store.run(
         "CREATE TABLE IF NOT EXISTS STAMPE_GIORNALE ("

@@ -29,7 +29,18 @@ constexpr std::array kFields{
 constexpr std::array kHeads{Head{"lblPROGRESSIVO", "N."}, Head{"txtMASTRO", "Mastro"}, Head{"TxtCONTO", "Conto"},
                             Head{"cmbTIPO", "Segno"}};
 
-bool isEmpty(const Row& line) { return textOf(line.at("MASTRO")).empty() && textOf(line.at("CONTO")).empty(); }
+bool isTicked(const Row& line, std::string_view flag) { return std::get<bool>(shown(line.at(flag), Kind::Flag)); }
+
+bool isEmpty(const Row& line) {
+  return textOf(line.at("MASTRO")).empty() && textOf(line.at("CONTO")).empty() && !isTicked(line, "RIPETI") &&
+         !isTicked(line, "IVA");
+}
+
+void requireType(Store& store, const Value& type) {
+  if (store.rows("SELECT 1 FROM TIPI_MOVIMENTI WHERE COD_MOVIMENTO = ?1", std::array{type}).empty()) {
+    throw StoreFailure("il tipo di movimento non c'è più: è stato eliminato da altri");
+  }
+}
 
 constexpr LinesDescription kLines{
     .panelClass = "ctlDATI_MOVIMENTI",
@@ -51,9 +62,7 @@ class MovementTypeLines final : public Screen {
   }
 
   void load(Store& store, const Key& key) override {
-    if (store.rows("SELECT 1 FROM TIPI_MOVIMENTI WHERE COD_MOVIMENTO = ?1", key).empty()) {
-      throw StoreFailure("il tipo di movimento non c'è più: è stato eliminato da altri");
-    }
+    requireType(store, key.front());
     std::vector<Row> lines = journal::linesOfType(store, std::get<std::int64_t>(key.front()));
     const std::string none;
     const std::int64_t no = 0;
@@ -75,6 +84,7 @@ class MovementTypeLines final : public Screen {
     const std::vector<Row> lines = lines_.lines();
     for (const Row& line : lines) journal::requireAccount(store, line, kLines.number);
     Store::Transaction transaction(store);
+    requireType(store, key_.front());
     journal::makeTypeLinesTable(store);
     lines_.write(store, key_.front(), lines);
     transaction.commit();

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstdint>
+#include <cstdlib>
 #include <optional>
 
 #include "qvn/shared/failure.h"
@@ -31,8 +32,10 @@ std::string QuotaScreen::remark() const {
   const std::optional<std::int32_t> sum = sumOfQuotas(panels());
   if (!sum) return "Somma delle quote: una quota non è valida.";
   std::string text = std::string("Somma delle quote: ").append(std::to_string(*sum)).append("‰");
-  if (*sum < kWhole) text.append(", ne mancano ").append(std::to_string(kWhole - *sum));
-  if (*sum > kWhole) text.append(", ce ne sono ").append(std::to_string(*sum - kWhole)).append(" di troppo");
+  if (*sum < kWhole) text.append(*sum == kWhole - 1 ? ", ne manca " : ", ne mancano ");
+  if (*sum > kWhole) text.append(*sum == kWhole + 1 ? ", ce n'è " : ", ce ne sono ");
+  if (*sum != kWhole) text.append(std::to_string(std::abs(kWhole - *sum)));
+  if (*sum > kWhole) text.append(" di troppo");
   return text.append(".");
 }
 

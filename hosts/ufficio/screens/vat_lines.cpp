@@ -22,8 +22,9 @@ constexpr RecordDescription kVatLines{
     .panelClass = "ctlINS_IVA",
     .find =
         "SELECT N_MOVIMENTO || '  ' || substr(DATA_MOVIMENTO, 9, 2) || '/' || substr(DATA_MOVIMENTO, 6, 2) || '/' "
-        "|| substr(DATA_MOVIMENTO, 1, 4) || '  ' || DESC_2 AS TESTO, N_MOVIMENTO FROM MOVIMENTI "
-        "WHERE RIGA = 1 AND holds(TESTO, ?1) ORDER BY N_MOVIMENTO LIMIT ?2",
+        "|| substr(DATA_MOVIMENTO, 1, 4) || '  ' || DESC_2 AS TESTO, N_MOVIMENTO FROM MOVIMENTI A "
+        "WHERE NOT EXISTS (SELECT 1 FROM MOVIMENTI B WHERE B.N_MOVIMENTO = A.N_MOVIMENTO AND B.RIGA < A.RIGA) "
+        "AND holds(TESTO, ?1) ORDER BY N_MOVIMENTO LIMIT ?2",
     .table = journal::kVatTable,
     .key = kKey,
     .fields = journal::kVatFields,
@@ -40,6 +41,7 @@ class VatLines final : public RecordScreen {
   }
 
   void write(Store& store, const BoundPanel& panel) const override {
+    if (store.rows("SELECT 1 FROM MOVIMENTI WHERE N_MOVIMENTO = ?1", key()).empty()) throw RecordGone();
     journal::makeVatTable(store);
     RecordScreen::write(store, panel);
   }
