@@ -193,6 +193,47 @@ TEST_F(OfficeNothingLost, WhatOthersChangeDuringTheQuestionIsNotDeleted) {
   EXPECT_EQ(sample.line("SELECT DESCRIZIONE FROM TIPI_IVA WHERE COD_IVA = 99"), "altra");
 }
 
+TEST_F(OfficeNothingLost, ARecordIsNotDeletedWhileAnyTableRefersToIt) {
+  struct Used {
+    std::string_view screen;
+    const char* found;
+    const char* use;
+    const char* called;
+  };
+  const std::vector<Used> all{
+      {"iva", "22  ",
+       "CREATE TABLE MOVIMENTI_IVA (N_MOVIMENTO INTEGER, COD_IVA INTEGER); INSERT INTO MOVIMENTI_IVA VALUES (1, 22)",
+       "una riga IVA"},
+      {"tipi-movimenti", "4  ", "UPDATE MOVIMENTI SET COD_MOVIMENTO = 4", "una registrazione di prima nota"},
+      {"tipi-movimenti", "4  ",
+       "DELETE FROM MOVIMENTI; CREATE TABLE DATI_MOVIMENTI (COD_MOVIMENTO INTEGER); INSERT INTO DATI_MOVIMENTI VALUES "
+       "(4)",
+       "una riga che definisce questo tipo di movimento"},
+      {"rami", "IN", "DELETE FROM POLIZZE", "un sottoramo"},
+      {"rami", "IN", "DELETE FROM SOTTORAMI", "un estratto conto"},
+  };
+  window().askRemovalBy([](const QString&) { return true; });
+  for (const Used& used : all) {
+    choose(used.screen);
+    open(used.found);
+    sample.write(used.use);
+    press(Qt::Key_F8);
+    EXPECT_EQ(told(), std::string("Il record non è stato eliminato: il record è ancora usato da ") + used.called + ".");
+  }
+}
+
+TEST_F(OfficeNothingLost, AnEntryThatAnotherHasChangedIsNotDeleted) {
+  choose("prima-nota");
+  open("12  ");
+  const std::string which = " WHERE N_MOVIMENTO = " + ufficio::textOf(screen().key().front());
+  const std::string lines = sample.line("SELECT count(*) FROM MOVIMENTI" + which);
+  window().askRemovalBy([](const QString&) { return true; });
+  sample.write("UPDATE MOVIMENTI SET DESC_1 = 'x'" + which);
+  press(Qt::Key_F8);
+  EXPECT_THAT(told(), HasSubstr(kChangedByOthers));
+  EXPECT_EQ(sample.line("SELECT count(*) FROM MOVIMENTI" + which), lines);
+}
+
 TEST_F(OfficeNothingLost, PercentsAreKeptInTheFamilyThatCounts) {
   choose("provvigioni");
   open("07/00000004");
