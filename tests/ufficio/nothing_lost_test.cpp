@@ -29,6 +29,16 @@ class OfficeNothingLost : public AtWindow {
 
 constexpr const char* kChangedByOthers = "nel frattempo il record è stato modificato o eliminato da altri";
 
+TEST_F(OfficeNothingLost, WhatAFieldCannotBeLeftWithIsNotStored) {
+  typeVatThatCannotStand();
+  EXPECT_EQ(focused(), "TxtIVA");
+  save();
+  EXPECT_THAT(told(), HasSubstr("Campo «IVA», uscita dal campo"));
+  EXPECT_EQ(focused(), "TxtIVA");
+  EXPECT_TRUE(window().editing());
+  EXPECT_FALSE(hasTable("MOVIMENTI_IVA"));
+}
+
 TEST_F(OfficeNothingLost, WhatAFieldCouldNotBeLeftWithIsNotStoredFromElsewhere) {
   typeVatThatCannotStand();
   press(Qt::Key_F6);

@@ -240,21 +240,6 @@ TEST_F(OfficeSaving, TellsOfAHandlersFailureWithFieldAndReason) {
   EXPECT_THAT(window().findChild<QLabel*>("testo")->toolTip().toStdString(), HasSubstr("50 divided by a rate of 0"));
 }
 
-TEST_F(OfficeSaving, StoresNothingWhereTheFieldCannotBeLeft) {
-  choose("righe-iva");
-  open("12  ");
-  edit();
-  enter("80");
-  press(Qt::Key_Return);
-  write("50");
-  EXPECT_EQ(focused(), "TxtIVA");
-  save();
-  EXPECT_THAT(notice().toStdString(), HasSubstr("Campo «IVA», uscita dal campo"));
-  EXPECT_EQ(focused(), "TxtIVA");
-  EXPECT_TRUE(window().editing());
-  EXPECT_EQ(sample.rows("SELECT 1 FROM sqlite_master WHERE name = 'MOVIMENTI_IVA'").size(), 0U);
-}
-
 TEST_F(OfficeSaving, TellsThatItHasStoredWhatItCannotShow) {
   change();
   sample.write(
