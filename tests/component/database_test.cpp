@@ -240,7 +240,8 @@ TEST_F(Listing, tellsWhichActsCouldNotBeDone) {
   EXPECT_THAT(failedActs(), testing::StartsWith("Lista: "));
   EXPECT_EQ("", failedActs());
   type(on(), "??");
-  EXPECT_THAT(failedActs(), testing::AllOf(testing::StartsWith("Lista: "), testing::HasSubstr("\nLista: "), testing::EndsWith("\n")));
+  EXPECT_THAT(failedActs(),
+              testing::AllOf(testing::StartsWith("Lista: "), testing::HasSubstr("\nLista: "), testing::EndsWith("\n")));
   EXPECT_EQ("", get(panel(), "COD_COMP").text());
 }
 
