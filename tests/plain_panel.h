@@ -22,8 +22,6 @@
 
 namespace qvn::test {
 
-using Strings = std::vector<std::string>;
-
 inline constexpr std::uint32_t kCyan = 16776960;
 
 /// What a widget's row of the layout says, and what the widget shows when it was made.
@@ -58,13 +56,6 @@ inline std::string shownBy(toolkit::Widget& widget) {
   }
 }
 
-/// Whether all of a text is selected.
-inline bool wholeSelected(const toolkit::EditableText& field) {
-  const std::string text = field.Text();
-  const auto characters = std::ranges::count_if(text, [](char c) { return (c & 0xC0) != 0x80; });
-  return characters > 0 && field.SelStart() == 0 && field.SelLength() == characters;
-}
-
 template <class P>
 class PlainPanel : public OnPlatform {
  public:
@@ -85,8 +76,6 @@ class PlainPanel : public OnPlatform {
     renew();
     panel->Attiva();
   }
-  /// The announcements since it was last asked, in order.
-  Strings heard() { return std::exchange(container().notices, {}); }
   std::string membersInOrder() {
     std::string told;
     for (const Member& member : panel->members()) {
@@ -103,7 +92,6 @@ class PlainPanel : public OnPlatform {
   toolkit::ComboBox& list(std::string_view name) { return surface().comboBox(name); }
   toolkit::CheckBox& flag(std::string_view name) { return surface().checkBox(name); }
   std::string caption(std::string_view name) { return surface().label(name).Caption(); }
-  std::string focused() { return platform().focused() == nullptr ? "" : std::string(platform().focused()->Name()); }
   /// Where each of so many keys leads, one after the other.
   Strings pathOf(std::string_view key, int times) {
     Strings path;

@@ -12,6 +12,8 @@
 
 namespace qvn::test {
 
+using Strings = std::vector<std::string>;
+
 /// One failure that a container was told of.
 struct ReportedFailure {
   std::string panel;
@@ -30,7 +32,7 @@ inline std::ostream& operator<<(std::ostream& out, const ReportedFailure& failur
 class RecordingContainer final : public toolkit::Container {
  public:
   /// Names of the properties announced as changed, as the panels wrote them.
-  std::vector<std::string> notices;
+  Strings notices;
   std::vector<ReportedFailure> failures;
   /// What the host does on a notice, after it was kept; empty for nothing.
   std::function<void(toolkit::Surface& panel, std::string_view name)> onNotice;

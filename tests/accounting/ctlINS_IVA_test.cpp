@@ -10,24 +10,22 @@
 #include "qvn/shared/Globale.h"
 #include "tests/failure_matchers.h"
 #include "tests/noting_platform.h"
-#include "tests/on_platform.h"
+#include "tests/on_database.h"
 
 namespace qvn::test {
 namespace {
 
 using toolkit::Align;
 using toolkit::WidgetKind;
-using Notices = std::vector<std::string>;
 
 constexpr std::uint32_t kCyan = 0xFFFF00;
 constexpr std::uint32_t kYellow = 0x00FFFF;
 
 Currency euro(std::int64_t cents) { return Currency::fromTenThousandths(cents * 100); }
 
-class VatLine : public OnPlatform {
+class VatLine : public OnDatabase {
  public:
   VatLine() {
-    Globale::Eventi()->ImpostaDB("fake:ufficio");
     rate(4, "ORDINARIA", 20);
     rate(2, "ESENTE", 0);
   }
@@ -51,8 +49,7 @@ class VatLine : public OnPlatform {
   void ready() {
     panel.COD_IVA("4");
     panel.Attiva();
-    container().notices.clear();
-    driver().ran.clear();
+    forget();
   }
   /// Types over what the field holds and goes elsewhere.
   void enter(toolkit::TextBox& field, std::string_view keys) {
@@ -63,19 +60,6 @@ class VatLine : public OnPlatform {
   void amounts(std::string_view taxableText, std::string_view vatText) {
     EXPECT_EQ(taxable.Text(), taxableText);
     EXPECT_EQ(vat.Text(), vatText);
-  }
-  bool wholeSelected(const toolkit::TextBox& field) {
-    return field.SelStart() == 0 && field.SelLength() == static_cast<std::int32_t>(field.Text().size());
-  }
-  std::vector<std::string> statements() {
-    std::vector<std::string> texts;
-    for (const Ran& one : driver().ran) texts.push_back(one.sql);
-    return texts;
-  }
-  /// The one failure that the container was told of.
-  ReportedFailure reported() {
-    EXPECT_EQ(container().failures.size(), 1U);
-    return container().failures.empty() ? ReportedFailure{} : container().failures.front();
   }
 };
 QVN_ON_EVERY_PLATFORM(VatLine);
@@ -174,8 +158,8 @@ TEST_P(VatLine, ACodeShowsItsDescriptionAndRate) {
   EXPECT_EQ(description.Caption(), "ORDINARIA");
   EXPECT_EQ(percent.Caption(), "20");
   EXPECT_EQ(panel.COD_IVA(), "4");
-  EXPECT_EQ(container().notices, Notices{"COD_IVA"});
-  EXPECT_EQ(statements(), std::vector<std::string>{"Select * From TIPI_IVA Where COD_IVA = 4"});
+  EXPECT_EQ(container().notices, Strings{"COD_IVA"});
+  EXPECT_EQ(asked(), Strings{"Select * From TIPI_IVA Where COD_IVA = 4"});
 }
 
 TEST_P(VatLine, AnUnknownCodeShowsNoDescriptionAndARateOfZero) {
@@ -196,8 +180,8 @@ TEST_P(VatLine, ACodeIsWrittenWithoutComparing) {
   EXPECT_TRUE(driver().ran.empty());
   panel.COD_IVA("04");  // another text of the same number does
   EXPECT_EQ(panel.COD_IVA(), "04");
-  EXPECT_EQ(statements(), std::vector<std::string>{"Select * From TIPI_IVA Where COD_IVA = 04"});
-  EXPECT_EQ(container().notices, Notices{"COD_IVA"});
+  EXPECT_EQ(asked(), Strings{"Select * From TIPI_IVA Where COD_IVA = 04"});
+  EXPECT_EQ(container().notices, Strings{"COD_IVA"});
 }
 
 TEST_P(VatLine, AnEmptiedCodeBecomesZeroWithBothLabelsEmpty) {
@@ -211,8 +195,8 @@ TEST_P(VatLine, AnEmptiedCodeBecomesZeroWithBothLabelsEmpty) {
   EXPECT_EQ(description.Caption(), "");
   EXPECT_EQ(percent.Caption(), "");
   // The code 0 was looked up inside, before the labels were emptied.
-  EXPECT_EQ(statements(), std::vector<std::string>{"Select * From TIPI_IVA Where COD_IVA = 0"});
-  EXPECT_EQ(container().notices, (Notices{"COD_IVA", "COD_IVA"}));
+  EXPECT_EQ(asked(), Strings{"Select * From TIPI_IVA Where COD_IVA = 0"});
+  EXPECT_EQ(container().notices, (Strings{"COD_IVA", "COD_IVA"}));
 }
 
 TEST_P(VatLine, ACodeWritesTheDescriptionBeforeTheRate) {
@@ -292,7 +276,7 @@ TEST_P(VatLine, AnAmountIsPlainWhileItIsEdited) {
   EXPECT_EQ(taxable.Text(), "1234,56");
   EXPECT_TRUE(wholeSelected(taxable));
   EXPECT_EQ(taxable.BackColor(), kCyan);
-  EXPECT_EQ(container().notices, Notices{"IMPONIBILE"});
+  EXPECT_EQ(container().notices, Strings{"IMPONIBILE"});
   hands().leave();
   EXPECT_EQ(taxable.Text(), "€ 1.234,56");
   EXPECT_EQ(taxable.BackColor(), toolkit::kWhite);
@@ -319,7 +303,7 @@ TEST_P(VatLine, AnEmptiedAmountBecomesZero) {
     EXPECT_EQ(field->Text(), "0");
     EXPECT_TRUE(wholeSelected(*field));
     const std::string name(field == &taxable ? "IMPONIBILE" : "IVA");
-    EXPECT_EQ(container().notices, (Notices{name, name}));
+    EXPECT_EQ(container().notices, (Strings{name, name}));
   }
 }
 
@@ -329,7 +313,7 @@ TEST_P(VatLine, ALetWorksOutNothing) {
   panel.IMPONIBILE(euro(100'000));
   panel.IVA(euro(1));
   amounts("€ 1.000,00", "€ 0,01");
-  EXPECT_EQ(container().notices, (Notices{"IMPONIBILE", "IVA"}));
+  EXPECT_EQ(container().notices, (Strings{"IMPONIBILE", "IVA"}));
   EXPECT_EQ(panel.IMPONIBILE(), euro(100'000));
   EXPECT_EQ(panel.IVA(), euro(1));
 }
@@ -464,8 +448,9 @@ TEST_P(VatLine, BackwardReadsTheTaxableWhateverTheVat) {
   taxable.Text("abc");
   hands().focus(vat);
   hands().leave();
-  EXPECT_EQ(reported().kind, FailureKind::TypeMismatch);
-  EXPECT_NE(reported().message.find("TxtIMPONIBILE"), std::string::npos);
+  const ReportedFailure failure = onlyReported();
+  EXPECT_EQ(failure.kind, FailureKind::TypeMismatch);
+  EXPECT_NE(failure.message.find("TxtIMPONIBILE"), std::string::npos);
 }
 
 TEST_P(VatLine, EachDirectionRewritesTheVatBeforeTheTaxable) {
@@ -547,7 +532,7 @@ TEST_P(VatLine, BackwardLeavesBothWhereATaxableStands) {
 TEST_P(VatLine, BackwardWithoutARateFails) {
   panel.Attiva();
   enter(vat, "200");
-  const ReportedFailure failure = reported();
+  const ReportedFailure failure = onlyReported();
   EXPECT_EQ(failure.panel, "riga");
   EXPECT_EQ(failure.widget, "TxtIVA");
   EXPECT_EQ(failure.event, "LostFocus");
@@ -561,7 +546,7 @@ TEST_P(VatLine, BackwardWithARateOfZeroFails) {
   ready();
   panel.COD_IVA("2");
   enter(vat, "200");
-  const ReportedFailure failure = reported();
+  const ReportedFailure failure = onlyReported();
   EXPECT_EQ(failure.kind, FailureKind::DivisionByZero);
   EXPECT_NE(failure.message.find("lblIVA"), std::string::npos);
   amounts("0", "200");
@@ -581,7 +566,7 @@ TEST_P(VatLine, BackwardBeyondTheCurrencyOverflows) {
   panel.COD_IVA("1");
   panel.Attiva();
   enter(vat, "100000000000000");
-  EXPECT_EQ(reported().kind, FailureKind::Overflow);
+  EXPECT_EQ(onlyReported().kind, FailureKind::Overflow);
   amounts("0", "100000000000000");
 }
 
@@ -599,8 +584,9 @@ TEST_P(VatLine, AnAmountThatIsNoNumberStopsTheLeaving) {
   ready();
   vat.Text("1,5x");
   enter(taxable, "100");
-  EXPECT_EQ(reported().kind, FailureKind::TypeMismatch);
-  EXPECT_NE(reported().message.find("\"1,5x\""), std::string::npos);
+  const ReportedFailure failure = onlyReported();
+  EXPECT_EQ(failure.kind, FailureKind::TypeMismatch);
+  EXPECT_NE(failure.message.find("\"1,5x\""), std::string::npos);
   amounts("100", "1,5x");
   EXPECT_EQ(taxable.BackColor(), toolkit::kWhite);
 }
@@ -629,7 +615,7 @@ TEST_P(VatLineList, OpensForTheCodeAndTakesTheChosenOne) {
   EXPECT_TRUE(wholeSelected(code));
   EXPECT_EQ(description.Caption(), "ESENTE");
   EXPECT_EQ(percent.Caption(), "0");
-  EXPECT_EQ(container().notices, Notices{"COD_IVA"});
+  EXPECT_EQ(container().notices, Strings{"COD_IVA"});
   EXPECT_TRUE(code.hasFocus());
 }
 
@@ -639,7 +625,7 @@ TEST_P(VatLineList, OfTheCodeZeroHasAllCodes) {
   rows("Select DESCRIZIONE, COD_IVA From TIPI_IVA");
   hands().layDown("Lista", {Act::row(1), Act::click("CmdOK")});
   hands().type("?");
-  EXPECT_EQ(statements().front(), "Select DESCRIZIONE, COD_IVA From TIPI_IVA");
+  EXPECT_EQ(asked().front(), "Select DESCRIZIONE, COD_IVA From TIPI_IVA");
   EXPECT_EQ(code.Text(), "4");
 }
 
@@ -664,9 +650,10 @@ TEST_P(VatLineList, WithoutARowShowsNothing) {
 TEST_P(VatLineList, AFailingQueryReachesTheContainer) {
   driver().failingStatement = 1;
   hands().type("?");
-  EXPECT_EQ(reported().kind, FailureKind::Database);
-  EXPECT_EQ(reported().widget, "txtCOD_IVA");
-  EXPECT_EQ(reported().event, "KeyPress");
+  const ReportedFailure failure = onlyReported();
+  EXPECT_EQ(failure.kind, FailureKind::Database);
+  EXPECT_EQ(failure.widget, "txtCOD_IVA");
+  EXPECT_EQ(failure.event, "KeyPress");
   EXPECT_EQ(code.Text(), "4");
   EXPECT_EQ(platform().forms().count(), 1);  // the wait form stays, and the next list comes over it
   driver().failingStatement = 0;
@@ -701,7 +688,7 @@ TEST_P(VatLineList, ThePanelMayBeDroppedWhileItStands) {
   EXPECT_EQ(platform().focused(), nullptr);
   EXPECT_EQ(platform().forms().count(), 0);
   EXPECT_TRUE(container().notices.empty());
-  EXPECT_EQ(statements(), std::vector<std::string>{"Select DESCRIZIONE, COD_IVA From TIPI_IVA Where COD_IVA = 4"});
+  EXPECT_EQ(asked(), Strings{"Select DESCRIZIONE, COD_IVA From TIPI_IVA Where COD_IVA = 4"});
 }
 
 }  // namespace

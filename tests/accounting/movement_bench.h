@@ -15,36 +15,30 @@
 #include "qvn/panels/classes.h"
 #include "qvn/shared/Globale.h"
 #include "qvn/shared/conversions.h"
-#include "tests/failing_query.h"
 #include "tests/failure_matchers.h"
 #include "tests/noting_platform.h"
-#include "tests/on_platform.h"
+#include "tests/on_database.h"
 
 namespace qvn::test {
-
-using Strings = std::vector<std::string>;
 
 inline constexpr std::uint32_t kCyan = 0xFFFF00;
 inline constexpr std::uint32_t kYellow = 0x00FFFF;
 inline constexpr std::uint32_t kGreen = 65280;
 inline constexpr std::uint32_t kRedBack = 255;
 
-class MovementBench : public OnPlatform {
+class MovementBench : public OnDatabase {
  public:
   static constexpr std::string_view kEntry = "ctlINS_MOVIMENTI";
   static constexpr std::string_view kTemplate = "ctlDATI_MOVIMENTI";
 
   MovementBench() {
-    platform().drivers().add(statements);
     ledger("10", "CASSA");
     ledger("20", "BANCHE");
     account("10", "001", "CASSA CONTANTI");
     account("20", "001", "CONTO CORRENTE");
     account("20", "002", "CONTO PREMI");
-    Globale::Eventi()->ImpostaDB("failing:fake:ufficio");
   }
 
-  FailingQuery statements{driver()};
   std::unique_ptr<Panel> panel;
 
   // The database.
@@ -81,13 +75,6 @@ class MovementBench : public OnPlatform {
   void listedAccount(const std::string& sql, std::string mastro, std::string conto) {
     driver().answers[sql] = {{"DESCRIZIONE", "MASTRO", "CONTO"},
                              {{std::string("SCELTO"), std::move(mastro), std::move(conto)}}};
-  }
-  /// The statements run since it was last asked, in order.
-  Strings asked() {
-    Strings sql;
-    sql.reserve(driver().ran.size());
-    for (const Ran& ran : std::exchange(driver().ran, {})) sql.push_back(ran.sql);
-    return sql;
   }
 
   // The host.
@@ -132,18 +119,6 @@ class MovementBench : public OnPlatform {
     Globale::install(platform());
     return noting.notes;
   }
-  /// The announcements since it was last asked, in order.
-  Strings heard() { return std::exchange(container().notices, {}); }
-  void forget() {
-    container().notices.clear();
-    driver().ran.clear();
-  }
-  /// The one failure that the container was told of since it was last asked; fails the test if there are more or none.
-  ReportedFailure onlyReported() {
-    EXPECT_EQ(container().failures.size(), 1U);
-    if (container().failures.empty()) return {};
-    return std::exchange(container().failures, {}).front();
-  }
 
   // The operator.
   /// Lays down that the first row of the next list is taken.
@@ -158,12 +133,6 @@ class MovementBench : public OnPlatform {
   toolkit::Frame& frame() { return surface().frame("Frame1"); }
   std::string description() {
     return surface().label(surface().layout().name == kEntry ? "LblDESC_CONTO" : "lblDESC_CONTO").Caption();
-  }
-  std::string focused() { return platform().focused() == nullptr ? "" : std::string(platform().focused()->Name()); }
-  bool wholeSelected(const toolkit::EditableText& field) {
-    const std::string shown = field.Text();
-    const auto characters = std::ranges::count_if(shown, [](char c) { return (c & 0xC0) != 0x80; });
-    return field.SelStart() == 0 && field.SelLength() == characters;
   }
 };
 

@@ -9,10 +9,6 @@
 
 namespace qvn::test {
 
-inline std::string companySql(std::string_view company) {
-  return std::string("Select DESC_COMPAGNIA From COMPAGNIE Where COD_COMP = '").append(company).append("'");
-}
-
 inline std::string exposureSql(std::string_view client, std::string_view company) {
   return std::string(
              "SELECT POLIZZE.COD_CLIENTE, QUOTE_POLIZZE.COD_COMP, Sum([CAUZIONE]*[QUOTA]/1000) AS ESP "
@@ -36,9 +32,6 @@ class CreditPanel : public LinePanel<ctlFIDO> {
     exposure("K1", "C1", 1234.565);
     exposure("K1", "C2", std::int32_t{2'000'000});
     exposure("K2", "C1", 5.0);
-  }
-  void company(std::string_view code, std::string name) {
-    driver().answers[companySql(code)] = {{"DESC_COMPAGNIA"}, {{std::move(name)}}};
   }
   void exposure(std::string_view client, std::string_view code, Variant sum) {
     driver().answers[exposureSql(client, code)] = {{"COD_CLIENTE", "COD_COMP", "ESP"},

@@ -195,7 +195,7 @@ TEST_P(PolicyViewers, AFailingAskForTheCalculationLoadsNoForm) {
     SCOPED_TRACE(view.button);
     statements.failAt(1);
     press(view.button);
-    const ReportedFailure failure = reported();
+    const ReportedFailure failure = onlyReported();
     EXPECT_EQ(failure.kind, FailureKind::Database);
     EXPECT_EQ(failure.panel, "polizza");
     EXPECT_EQ(failure.widget, view.button);
@@ -211,7 +211,7 @@ TEST_P(PolicyViewers, APolicyThatIsNotThereLoadsNoForm) {
   driver().answers.erase(kCurrent);
   for (const View& view : views()) {
     press(view.button);
-    EXPECT_EQ(reported().kind, FailureKind::Database);
+    EXPECT_EQ(onlyReported().kind, FailureKind::Database);
     EXPECT_EQ(asked(), Strings{kCurrent});
     EXPECT_THAT(log.take(), ElementsAre("current"));
     EXPECT_THAT(loadedForms(), IsEmpty());
@@ -221,7 +221,7 @@ TEST_P(PolicyViewers, APolicyThatIsNotThereLoadsNoForm) {
 TEST_P(PolicyViewers, AnEmptyNumberLeavesAGapInTheFirstStatement) {
   panel = another();
   press("CmdCOMPAGNIE");
-  EXPECT_EQ(reported().kind, FailureKind::Database);
+  EXPECT_EQ(onlyReported().kind, FailureKind::Database);
   EXPECT_EQ(asked(), Strings{"Select U_CALCOLO FROM POLIZZE WHERE PROT = "});
   EXPECT_THAT(loadedForms(), IsEmpty());
 }
@@ -231,7 +231,7 @@ TEST_P(PolicyViewers, AFailingStatementLeavesTheFormLoadedAndNotShown) {
     SCOPED_TRACE(view.button);
     statements.failAt(2);
     press(view.button);
-    const ReportedFailure failure = reported();
+    const ReportedFailure failure = onlyReported();
     EXPECT_EQ(failure.kind, FailureKind::Database);
     EXPECT_EQ(failure.widget, view.button);
     EXPECT_NE(failure.message.find(view.byTRF), std::string::npos);
@@ -325,7 +325,7 @@ TEST_P(PolicyViewers, WithoutADatabaseLoadNoForm) {
   Globale::unload();
   for (const View& view : views()) {
     press(view.button);
-    EXPECT_EQ(reported().kind, FailureKind::Database);
+    EXPECT_EQ(onlyReported().kind, FailureKind::Database);
     EXPECT_THAT(loadedForms(), IsEmpty());
   }
 }

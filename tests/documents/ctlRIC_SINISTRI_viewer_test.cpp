@@ -117,7 +117,7 @@ TEST_P(ClaimViewer, QuotesInTheNumberStay) {
 TEST_P(ClaimViewer, AFailingStatementLeavesTheFormLoadedAndNotShown) {
   statements.failAt(1);
   press();
-  const ReportedFailure failure = reported();
+  const ReportedFailure failure = onlyReported();
   EXPECT_EQ(failure.kind, FailureKind::Database);
   EXPECT_EQ(failure.panel, "sinistro");
   EXPECT_EQ(failure.widget, "CmdCOMPAGNIE");
@@ -165,7 +165,7 @@ TEST_P(ClaimViewer, AsksForAMissingDatabaseAndIsOpenedFromItsString) {
 TEST_P(ClaimViewer, WithoutADatabaseStaysLoadedAndNotShown) {
   Globale::unload();
   press();
-  EXPECT_EQ(reported().kind, FailureKind::Database);
+  EXPECT_EQ(onlyReported().kind, FailureKind::Database);
   EXPECT_THAT(loadedForms(), ElementsAre("FrmVIS_COMPAGNIE"));
   EXPECT_THAT(hands().shown(), IsEmpty());
 }

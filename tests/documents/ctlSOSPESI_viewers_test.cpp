@@ -1,10 +1,10 @@
 // The three viewers that the buttons of the title panel open.
-#include <array>
 #include <gtest/gtest.h>
 
 #include "qvn/toolkit/data_grid.h"
 #include "tests/documents/form_log.h"
 #include "tests/documents/title_bench.h"
+#include "tests/viewer_columns.h"
 
 namespace qvn::test {
 namespace {
@@ -22,8 +22,6 @@ constexpr const char* kAlternates =
     "SELECT SOSPESI.COD_PROD_ALT, PRODUTTORI.DENOMINAZIONE, SOSPESI.PP_ALT, SOSPESI.RA_ALT FROM SOSPESI INNER JOIN "
     "PRODUTTORI ON SOSPESI.COD_PROD_ALT = PRODUTTORI.COD_PROD WHERE PROT = 7 AND PROG = 1 ORDER BY "
     "SOSPESI.COD_PROD_ALT";
-
-using Columns = std::vector<std::array<std::string, 3>>;
 
 class TitleViewers : public TitlePanel {
  public:
@@ -62,12 +60,6 @@ class TitleViewers : public TitlePanel {
     auto pictures = hands().shown();
     EXPECT_EQ(pictures.size(), 1U);
     return pictures.empty() ? FormPicture{} : pictures.front();
-  }
-  static Columns columnsOf(const FormPicture& picture) {
-    Columns columns;
-    columns.reserve(picture.columns.size());
-    for (const auto& column : picture.columns) columns.push_back({column.caption, column.field, column.format});
-    return columns;
   }
 };
 QVN_ON_EVERY_PLATFORM(TitleViewers);
@@ -192,14 +184,14 @@ TEST_P(TitleViewers, ATitleWithoutRowsShowsAnEmptyGrid) {
 TEST_P(TitleViewers, AFailingStatementLeavesTheFormLoadedAndNotShown) {
   for (const View& view : views()) {
     SCOPED_TRACE(view.button);
-    container().failures.clear();
     driver().ran.clear();
     driver().failingStatement = 1;
     press(view.button);
-    EXPECT_EQ(reported().kind, FailureKind::Database);
-    EXPECT_EQ(reported().widget, view.button);
-    EXPECT_EQ(reported().event, "Click");
-    EXPECT_NE(reported().message.find(view.sql), std::string::npos);
+    const ReportedFailure failure = onlyReported();
+    EXPECT_EQ(failure.kind, FailureKind::Database);
+    EXPECT_EQ(failure.widget, view.button);
+    EXPECT_EQ(failure.event, "Click");
+    EXPECT_NE(failure.message.find(view.sql), std::string::npos);
     EXPECT_THAT(namesOfLoadedForms(platform()), testing::Contains(view.form));
     EXPECT_THAT(hands().shown(), IsEmpty());
     driver().failingStatement = 0;
@@ -246,7 +238,7 @@ TEST_P(TitleViewers, AskForAMissingDatabaseBeforeTheFormLoads) {
 TEST_P(TitleViewers, WithoutADatabaseStayLoadedAndNotShown) {
   Globale::unload();
   press("CmdCOMPAGNIE");
-  EXPECT_EQ(reported().kind, FailureKind::Database);
+  EXPECT_EQ(onlyReported().kind, FailureKind::Database);
   EXPECT_THAT(namesOfLoadedForms(platform()), ElementsAre("FrmVIS_COMPAGNIE"));
 }
 

@@ -102,7 +102,7 @@ class LineDates : public LinePanel<P> {
     this->panel->Attiva();
     this->hands().focus(of(date));
     EXPECT_EQ(of(date).BackColor(), kCyan);
-    EXPECT_TRUE(this->wholeSelected(of(date)));
+    EXPECT_TRUE(wholeSelected(of(date)));
     this->forget();
     this->hands().type("3x1");
     EXPECT_EQ(of(date).Text(), "31/##/####");
@@ -133,12 +133,12 @@ class LineDates : public LinePanel<P> {
       EXPECT_EQ(of(date).Text(), each.completed);
       EXPECT_EQ(this->heard(), each.typed == each.completed ? Strings{} : Strings{date.name});
       EXPECT_EQ(this->focused(), date.field());
-      EXPECT_TRUE(this->wholeSelected(of(date)));
+      EXPECT_TRUE(wholeSelected(of(date)));
       this->hands().caret(0, 0);
       this->hands().type("{Enter}");  // completed, it stays where it is
       EXPECT_EQ(of(date).Text(), each.completed);
       EXPECT_EQ(this->focused(), date.field());
-      EXPECT_TRUE(this->wholeSelected(of(date)));
+      EXPECT_TRUE(wholeSelected(of(date)));
     }
     EXPECT_EQ(this->container().failures.size(), 0U);
   }

@@ -13,17 +13,14 @@
 #include <vector>
 
 #include "qvn/shared/conversions.h"
-#include "tests/failing_query.h"
 #include "tests/failure_matchers.h"
 #include "tests/loaded_forms.h"
-#include "tests/on_platform.h"
+#include "tests/on_database.h"
 
 namespace qvn::test {
 
 inline constexpr std::uint32_t kCyan = 0xFFFF00;
 inline constexpr std::uint32_t kYellow = 0x00FFFF;
-
-using Strings = std::vector<std::string>;
 
 inline Variant text(std::string_view value) { return std::string(value); }
 inline Variant day(int day, int month, int year) { return *Date::of(day, month, year); }
@@ -82,15 +79,10 @@ inline void expectLaidOut(const toolkit::Surface& surface, const std::vector<Lai
 }
 
 template <class P>
-class LinePanel : public OnPlatform {
+class LinePanel : public OnDatabase {
  public:
-  LinePanel() {
-    platform().drivers().add(statements);
-    Globale::Eventi()->ImpostaDB("failing:fake:ufficio");
-    renew();
-  }
+  LinePanel() { renew(); }
 
-  FailingQuery statements{driver()};
   std::unique_ptr<P> panel;
 
   // The host.
@@ -106,17 +98,6 @@ class LinePanel : public OnPlatform {
       told.append(member.name).append(" ").append(nameOf(member.kind)).append(" ").append(member.type).append("\n");
     }
     return told;
-  }
-  /// The announcements since it was last asked, in order.
-  Strings heard() { return std::exchange(container().notices, {}); }
-  void forget() {
-    container().notices.clear();
-    driver().ran.clear();
-  }
-  /// The one failure that the container was told of since it was last asked; fails the test if there are more or none.
-  ReportedFailure onlyReported() {
-    EXPECT_EQ(container().failures.size(), 1U);
-    return container().failures.empty() ? ReportedFailure{} : std::exchange(container().failures, {}).front();
   }
 
   /// Does so on panels that were started, which the host drops at the first announcement, at the second, and so on.
@@ -141,15 +122,6 @@ class LinePanel : public OnPlatform {
     start();
   }
 
-  // The database.
-  /// The statements run since it was last asked, in order.
-  Strings asked() {
-    Strings sql;
-    sql.reserve(driver().ran.size());
-    for (const Ran& ran : std::exchange(driver().ran, {})) sql.push_back(ran.sql);
-    return sql;
-  }
-
   // What can be seen.
   toolkit::Surface& surface() { return panel->surface(); }
   toolkit::TextBox& box(std::string_view name) { return surface().textBox(name); }
@@ -158,7 +130,6 @@ class LinePanel : public OnPlatform {
   toolkit::ComboBox& list(std::string_view name) { return surface().comboBox(name); }
   toolkit::CheckBox& flag(std::string_view name) { return surface().checkBox(name); }
   std::string caption(std::string_view name) { return label(name).Caption(); }
-  std::string focused() { return platform().focused() == nullptr ? "" : std::string(platform().focused()->Name()); }
   /// Where each of so many keys leads, one after the other.
   Strings pathOf(std::string_view key, int times) {
     Strings path;
@@ -167,13 +138,6 @@ class LinePanel : public OnPlatform {
       path.push_back(focused());
     }
     return path;
-  }
-  /// Whether all is selected, of a text without characters beyond ASCII but the euro sign.
-  static bool wholeSelected(const toolkit::EditableText& field) {
-    const std::string shown = field.Text();
-    const bool euro = shown.find("€") != std::string::npos;
-    const std::size_t characters = shown.size() - (euro ? std::string_view("€").size() - 1 : 0);
-    return !shown.empty() && field.SelStart() == 0 && field.SelLength() == static_cast<std::int32_t>(characters);
   }
 };
 

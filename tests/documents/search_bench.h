@@ -2,7 +2,6 @@
 // into.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <gmock/gmock.h>
 #include <memory>
@@ -16,59 +15,35 @@
 #include "qvn/panels/documents/ctlRIC_SINISTRI.h"
 #include "qvn/toolkit/data_grid.h"
 #include "tests/documents/form_log.h"
-#include "tests/failing_query.h"
 #include "tests/failure_matchers.h"
 #include "tests/loaded_forms.h"
-#include "tests/on_platform.h"
+#include "tests/on_database.h"
+#include "tests/viewer_columns.h"
 
 namespace qvn::test {
 
-using Strings = std::vector<std::string>;
-
-/// The columns of a viewer: what each is headed with, the field that it shows, its number format.
-using Columns = std::vector<std::array<std::string, 3>>;
-
-class SearchBench : public OnPlatform {
+class SearchBench : public OnDatabase {
  public:
   SearchBench() {
-    platform().drivers().add(statements);
-    answer(companySql("C1"), "DESC_COMPAGNIA", text("GENERALE"));
-    answer(companySql("C2"), "DESC_COMPAGNIA", text("ALPINA"));
+    company("C1", "GENERALE");
+    company("C2", "ALPINA");
     producer("P1", "ROSSI");
     producer("P2", "BIANCHI");
     answer(kindSql("CA"), "TIPO_SK", std::int32_t{4});
     answer(kindSql("EL"), "TIPO_SK", std::int32_t{1});
-    Globale::Eventi()->ImpostaDB("failing:fake:ufficio");
     hands().takePictures(true);
     watch(&log);
   }
   ~SearchBench() override { watch(nullptr); }
 
-  FailingQuery statements{driver()};
   FormLog log;
 
   // The database.
-  static std::string companySql(std::string_view code) {
-    return std::string("Select DESC_COMPAGNIA From COMPAGNIE Where COD_COMP = '").append(code).append("'");
-  }
-  static std::string producerSql(std::string_view code) {
-    return std::string("Select DENOMINAZIONE, PERCALT From PRODUTTORI Where COD_PROD = '").append(code).append("'");
-  }
   static std::string kindSql(std::string_view code) {
     return std::string("Select TIPO_SK FROM RAMI Where COD_RAMO = '").append(code).append("'");
   }
   void answer(const std::string& sql, std::string column, Variant value) {
     driver().answers[sql] = {{std::move(column)}, {{std::move(value)}}};
-  }
-  void producer(std::string_view code, std::string_view name) {
-    driver().answers[producerSql(code)] = {{"DENOMINAZIONE", "PERCALT"}, {{text(name), std::int32_t{30}}}};
-  }
-  /// The statements run since it was last asked, in order.
-  Strings asked() {
-    Strings sql;
-    sql.reserve(driver().ran.size());
-    for (const Ran& ran : std::exchange(driver().ran, {})) sql.push_back(ran.sql);
-    return sql;
   }
 
   // The host.
@@ -76,14 +51,6 @@ class SearchBench : public OnPlatform {
   static Variant day(int day, int month, int year) { return *Date::of(day, month, year); }
   std::unique_ptr<Panel> make(std::string_view className) {
     return panelClass(className).make(PanelSite{container(), "trovato"});
-  }
-  /// The announcements since it was last asked, in order.
-  Strings heard() { return std::exchange(container().notices, {}); }
-  /// The one failure that the container was told of since it was last asked.
-  ReportedFailure reported() {
-    const auto failures = std::exchange(container().failures, {});
-    EXPECT_EQ(failures.size(), 1U);
-    return failures.empty() ? ReportedFailure{} : failures.front();
   }
   /// Makes an answer for MancaDB that the library has to ask for, as its connection is gone.
   template <class Act>
@@ -111,12 +78,6 @@ class SearchBench : public OnPlatform {
     auto pictures = hands().shown();
     EXPECT_EQ(pictures.size(), 1U);
     return pictures.empty() ? FormPicture{} : pictures.front();
-  }
-  static Columns columnsOf(const FormPicture& picture) {
-    Columns columns;
-    columns.reserve(picture.columns.size());
-    for (const auto& column : picture.columns) columns.push_back({column.caption, column.field, column.format});
-    return columns;
   }
 };
 

@@ -10,21 +10,17 @@
 #include <vector>
 
 #include "qvn/panels/documents/ctlSOSPESI.h"
-#include "tests/failing_query.h"
 #include "tests/failure_matchers.h"
 #include "tests/loaded_forms.h"
-#include "tests/on_platform.h"
+#include "tests/on_database.h"
 
 namespace qvn::test {
 
-using Strings = std::vector<std::string>;
-
-class TitlePanel : public OnPlatform {
+class TitlePanel : public OnDatabase {
  public:
   static constexpr std::uint32_t kCyan = 0xFFFF00;
 
   TitlePanel() {
-    platform().drivers().add(statements);
     company("C1", "GENERALE");
     company("C2", "ALPINA");
     producer("P1", "ROSSI");
@@ -32,12 +28,10 @@ class TitlePanel : public OnPlatform {
     leadProducer("7", "1", std::string("P1"));
     leadProducer("7", "2", std::string("P2"));
     leadProducer("8", "2", Null{});
-    Globale::Eventi()->ImpostaDB("failing:fake:ufficio");
     panel = another("titolo");
     forget();
   }
 
-  FailingQuery statements{driver()};
   std::unique_ptr<ctlSOSPESI> panel;
 
   std::unique_ptr<ctlSOSPESI> another(std::string name) {
@@ -45,33 +39,14 @@ class TitlePanel : public OnPlatform {
   }
 
   // The database.
-  static std::string companySql(std::string_view code) {
-    return std::string("Select DESC_COMPAGNIA From COMPAGNIE Where COD_COMP = '").append(code).append("'");
-  }
-  static std::string producerSql(std::string_view code) {
-    return std::string("Select DENOMINAZIONE, PERCALT From PRODUTTORI Where COD_PROD = '").append(code).append("'");
-  }
   static std::string leadProducerSql(std::string_view PROT, std::string_view PROG) {
     return std::string("Select COD_PROD FROM SOSPESI Where COD_COMP = COD_COMP_DEL AND PROT = ")
         .append(PROT)
         .append(" AND PROG = ")
         .append(PROG);
   }
-  void company(std::string_view code, std::string name) {
-    driver().answers[companySql(code)] = {{"DESC_COMPAGNIA"}, {{std::move(name)}}};
-  }
-  void producer(std::string_view code, std::string name) {
-    driver().answers[producerSql(code)] = {{"DENOMINAZIONE", "PERCALT"}, {{std::move(name), std::int32_t{30}}}};
-  }
   void leadProducer(std::string_view PROT, std::string_view PROG, Variant code) {
     driver().answers[leadProducerSql(PROT, PROG)] = {{"COD_PROD"}, {{std::move(code)}}};
-  }
-  /// The statements run since it was last asked, in order.
-  Strings asked() {
-    Strings sql;
-    sql.reserve(driver().ran.size());
-    for (const Ran& ran : std::exchange(driver().ran, {})) sql.push_back(ran.sql);
-    return sql;
   }
 
   // The host.
@@ -82,17 +57,6 @@ class TitlePanel : public OnPlatform {
     panel->STATO(text(state));
     panel->N_STATO(text(action));
     forget();
-  }
-  /// The announcements since it was last asked, in order.
-  Strings heard() { return std::exchange(container().notices, {}); }
-  void forget() {
-    container().notices.clear();
-    driver().ran.clear();
-  }
-  /// The one failure that the container was told of.
-  ReportedFailure reported() {
-    EXPECT_EQ(container().failures.size(), 1U);
-    return container().failures.empty() ? ReportedFailure{} : container().failures.front();
   }
 
   // What can be seen.
@@ -111,7 +75,6 @@ class TitlePanel : public OnPlatform {
     return {caption("LblCOD_COMP_DEL"), caption("LblDESC_COMP_DEL"), caption("LblCOD_PROD_DEL"),
             caption("LblDESC_PROD_DEL")};
   }
-  std::string focused() { return platform().focused() == nullptr ? "" : std::string(platform().focused()->Name()); }
   bool wholeSelected(const toolkit::DateControl& field) { return field.SelStart() == 0 && field.SelLength() == 10; }
 };
 

@@ -1,5 +1,4 @@
 // The two viewers, opened step by step as their callers do.
-#include <array>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <string>
@@ -10,21 +9,13 @@
 #include "qvn/shared/Globale.h"
 #include "tests/failure_matchers.h"
 #include "tests/lookups/list_bench.h"
+#include "tests/viewer_columns.h"
 
 namespace qvn::test {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-using Columns = std::vector<std::array<std::string, 3>>;
-
-Columns columnsOf(const FormPicture& picture) {
-  Columns columns;
-  columns.reserve(picture.columns.size());
-  for (const auto& column : picture.columns) columns.push_back({column.caption, column.field, column.format});
-  return columns;
-}
 
 const Columns kCompanyColumns{{"Codice", "COD_COMP", ""},
                               {"Denominazione", "DESC_COMPAGNIA", ""},

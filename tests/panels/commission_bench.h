@@ -14,9 +14,8 @@
 
 #include "qvn/panels/commissions/ctlPROV_POLIZZE.h"
 #include "qvn/shared/conversions.h"
-#include "tests/failing_query.h"
 #include "tests/failure_matchers.h"
-#include "tests/on_platform.h"
+#include "tests/on_database.h"
 
 namespace qvn::test {
 
@@ -35,22 +34,19 @@ struct CommissionCell {
   std::string frame() const { return "Frm" + party(); }
 };
 
-class CommissionPanel : public OnPlatform {
+class CommissionPanel : public OnDatabase {
  public:
   using P = ctlPROV_POLIZZE;
 
   CommissionPanel() {
-    platform().drivers().add(statements);
     company("C1", "GENERALE");
     producer("P1", "ROSSI", std::int32_t{40}, std::int32_t{23});
     producer("P2", "BIANCHI", std::int32_t{30}, std::int32_t{23});
     producer("P3", "VERDI", std::int32_t{50}, std::int32_t{20});
-    Globale::Eventi()->ImpostaDB("failing:fake:ufficio");
     panel = another("provv");
     container().notices.clear();
   }
 
-  FailingQuery statements{driver()};
   std::unique_ptr<ctlPROV_POLIZZE> panel;
 
   std::unique_ptr<ctlPROV_POLIZZE> another(std::string name) {
@@ -58,28 +54,12 @@ class CommissionPanel : public OnPlatform {
   }
 
   // The database.
-  static std::string companySql(std::string_view code) {
-    return std::string("Select DESC_COMPAGNIA From COMPAGNIE Where COD_COMP = '").append(code).append("'");
-  }
-  static std::string producerSql(std::string_view code) {
-    return std::string("Select DENOMINAZIONE, PERCALT From PRODUTTORI Where COD_PROD = '").append(code).append("'");
-  }
   static std::string rateSql(std::string_view code) {
     return std::string("Select R_ACC From PRODUTTORI Where COD_PROD = '").append(code).append("'");
   }
-  void company(std::string_view code, std::string name) {
-    driver().answers[companySql(code)] = {{"DESC_COMPAGNIA"}, {{std::move(name)}}};
-  }
   void producer(std::string_view code, std::string name, Variant PERCALT, Variant R_ACC) {
-    driver().answers[producerSql(code)] = {{"DENOMINAZIONE", "PERCALT"}, {{std::move(name), std::move(PERCALT)}}};
+    OnDatabase::producer(code, std::move(name), std::move(PERCALT));
     driver().answers[rateSql(code)] = {{"R_ACC"}, {{std::move(R_ACC)}}};
-  }
-  /// The statements run since it was last asked, in order.
-  std::vector<std::string> asked() {
-    std::vector<std::string> sql;
-    sql.reserve(driver().ran.size());
-    for (const Ran& ran : std::exchange(driver().ran, {})) sql.push_back(ran.sql);
-    return sql;
   }
 
   // The host.
@@ -106,12 +86,6 @@ class CommissionPanel : public OnPlatform {
     hands().leave();
     forget();
   }
-  /// The announcements since it was last asked, in order.
-  std::vector<std::string> heard() { return std::exchange(container().notices, {}); }
-  void forget() {
-    container().notices.clear();
-    driver().ran.clear();
-  }
 
   // What can be seen.
   toolkit::Surface& surface() { return panel->surface(); }
@@ -121,14 +95,8 @@ class CommissionPanel : public OnPlatform {
   toolkit::Frame& frame(std::string_view name) { return surface().frame(name); }
   std::string text(std::string_view name) { return box(name).Text(); }
   std::string caption(std::string_view name) { return label(name).Caption(); }
-  std::string focused() { return platform().focused() == nullptr ? "" : std::string(platform().focused()->Name()); }
-  bool wholeSelected(const toolkit::TextBox& field) {
-    const std::string shown = field.Text();
-    const auto characters = std::ranges::count_if(shown, [](char c) { return (c & 0xC0) != 0x80; });
-    return field.SelStart() == 0 && field.SelLength() == characters;
-  }
-  std::vector<std::string> texts(const std::vector<std::string>& names) {
-    std::vector<std::string> shown;
+  Strings texts(const Strings& names) {
+    Strings shown;
     shown.reserve(names.size());
     for (const std::string& name : names) shown.push_back(text(name));
     return shown;
@@ -165,7 +133,5 @@ class CommissionPanel : public OnPlatform {
   Variant percentOf(const CommissionCell& cell) { return (*panel.*cell.getPercent)(); }
   void percentOf(const CommissionCell& cell, const Variant& value) { (*panel.*cell.letPercent)(value); }
 };
-
-using Strings = std::vector<std::string>;
 
 }  // namespace qvn::test

@@ -28,11 +28,6 @@ class VatCodePanel : public OnPlatform {
   toolkit::TextBox& description = box("txtDescrizione");
   toolkit::TextBox& rate = box("TxtIVA");
   toolkit::TextBox& deductible = box("txtDeb_Dec");
-
-  std::string focused() { return platform().focused() == nullptr ? "" : std::string(platform().focused()->Name()); }
-  bool wholeSelected(const toolkit::TextBox& field) {
-    return field.SelStart() == 0 && field.SelLength() == static_cast<std::int32_t>(field.Text().size());
-  }
 };
 QVN_ON_EVERY_PLATFORM(VatCodePanel);
 

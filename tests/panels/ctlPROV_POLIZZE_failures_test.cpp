@@ -9,15 +9,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class CommissionFailures : public CommissionPanel {
- public:
-  /// The one failure that the container was told of since it was last asked; fails the test if there are more or none.
-  ReportedFailure onlyReported() {
-    EXPECT_EQ(container().failures.size(), 1U);
-    if (container().failures.empty()) return {};
-    return std::exchange(container().failures, {}).front();
-  }
-};
+class CommissionFailures : public CommissionPanel {};
 QVN_ON_EVERY_PLATFORM(CommissionFailures);
 
 TEST_P(CommissionFailures, AStatementThatFailsLeavesTheSumsAndStopsBeforeTheWithholding) {

@@ -17,15 +17,12 @@
 #include "qvn/panels/quotas/ctlQ_POLIZZE.h"
 #include "qvn/panels/quotas/ctlQ_SINISTRI.h"
 #include "qvn/shared/conversions.h"
-#include "tests/failing_query.h"
 #include "tests/failure_matchers.h"
-#include "tests/on_platform.h"
+#include "tests/on_database.h"
 
 namespace qvn::test {
 
 inline constexpr std::uint32_t kCyan = 0xFFFF00;
-
-using Strings = std::vector<std::string>;
 
 inline Currency money(std::string_view text) { return toCurrency(text, Locale{}); }
 
@@ -46,37 +43,16 @@ inline CurrencyArray ofClaim(const std::array<std::string, 3>& texts) {
   return amounts({3}, Strings(texts.begin(), texts.end()));
 }
 
-class QuotaBench : public OnPlatform {
+class QuotaBench : public OnDatabase {
  public:
   QuotaBench() {
-    platform().drivers().add(statements);
-    driver().answers[companySql("C1")] = {{"DESC_COMPAGNIA"}, {{std::string("GENERALE")}}};
-    driver().answers[companySql("C2")] = {{"DESC_COMPAGNIA"}, {{std::string("RIUNIONE")}}};
+    company("C1", "GENERALE");
+    company("C2", "RIUNIONE");
     producer("P1", "ROSSI", 12.5);
     producer("P2", "BIANCHI", std::int32_t{30});
-    Globale::Eventi()->ImpostaDB("failing:fake:ufficio");
   }
 
-  FailingQuery statements{driver()};
   std::unique_ptr<Panel> panel;
-
-  // The database.
-  static std::string companySql(std::string_view code) {
-    return std::string("Select DESC_COMPAGNIA From COMPAGNIE Where COD_COMP = '").append(code).append("'");
-  }
-  static std::string producerSql(std::string_view code) {
-    return std::string("Select DENOMINAZIONE, PERCALT From PRODUTTORI Where COD_PROD = '").append(code).append("'");
-  }
-  void producer(std::string_view code, std::string name, Variant PERCALT) {
-    driver().answers[producerSql(code)] = {{"DENOMINAZIONE", "PERCALT"}, {{std::move(name), std::move(PERCALT)}}};
-  }
-  /// The statements run since it was last asked, in order.
-  Strings asked() {
-    Strings sql;
-    sql.reserve(driver().ran.size());
-    for (const Ran& ran : std::exchange(driver().ran, {})) sql.push_back(ran.sql);
-    return sql;
-  }
 
   // The host.
   static inline const Strings kBothClasses{"ctlQ_POLIZZE", "ctlQ_SINISTRI"};
@@ -121,18 +97,6 @@ class QuotaBench : public OnPlatform {
   std::int16_t quota() { return std::get<std::int16_t>(getByName(*panel, "QUOTA")); }
   void write(std::string_view name, std::string text) { let(name, std::move(text)); }
   std::string read(std::string_view name) { return std::get<std::string>(getByName(*panel, name)); }
-  /// The announcements since it was last asked, in order.
-  Strings heard() { return std::exchange(container().notices, {}); }
-  void forget() {
-    container().notices.clear();
-    driver().ran.clear();
-  }
-  /// The one failure that the container was told of since it was last asked; fails the test if there are more or none.
-  ReportedFailure onlyReported() {
-    EXPECT_EQ(container().failures.size(), 1U);
-    if (container().failures.empty()) return {};
-    return std::exchange(container().failures, {}).front();
-  }
 
   // What can be seen.
   toolkit::Surface& surface() { return panel->surface(); }
@@ -144,10 +108,6 @@ class QuotaBench : public OnPlatform {
   Strings shares() {
     const bool policy = surface().layout().name == "ctlQ_POLIZZE";
     return policy ? Strings{caption("TAF(0)"), caption("TRF(0)")} : Strings{caption("STIMATO"), caption("LIQUIDATO")};
-  }
-  std::string focused() { return platform().focused() == nullptr ? "" : std::string(platform().focused()->Name()); }
-  bool wholeSelected(const toolkit::EditableText& field) {
-    return field.SelStart() == 0 && field.SelLength() == static_cast<std::int32_t>(field.Text().size());
   }
 };
 
