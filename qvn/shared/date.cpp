@@ -41,12 +41,15 @@ std::optional<Date> Date::of(int day, int month, int year) {
   return Date(static_cast<std::int32_t>((sys_days(date) - kZero).count()));
 }
 
-Date Date::fromDays(std::int32_t days) {
-  if (days < (kFirst - kZero).count() || days > (kLast - kZero).count()) {
-    throw Failure(FailureKind::Overflow,
-                  std::to_string(days) + " days from 30/12/1899 lie outside the years 100 to 9999");
-  }
+std::optional<Date> Date::ofDays(std::int32_t days) {
+  if (days < (kFirst - kZero).count() || days > (kLast - kZero).count()) return std::nullopt;
   return Date(days);
+}
+
+Date Date::fromDays(std::int32_t days) {
+  if (const auto date = ofDays(days)) return *date;
+  throw Failure(FailureKind::Overflow,
+                std::to_string(days) + " days from 30/12/1899 lie outside the years 100 to 9999");
 }
 
 int Date::day() const { return static_cast<int>(static_cast<unsigned>(calendar(*this).day())); }

@@ -20,7 +20,9 @@ class Date {
   /// The date of a day, month (1 to 12) and year (100 to 9999); nothing if the calendar has no such day.
   static std::optional<Date> of(int day, int month, int year);
 
-  /// Fails with "overflow" outside the years 100 to 9999.
+  /// The date so many days from the date of zero; nothing outside the years 100 to 9999.
+  static std::optional<Date> ofDays(std::int32_t days);
+  /// The same; fails with "overflow" outside those years.
   static Date fromDays(std::int32_t days);
   static Date fromDays(std::floating_point auto days) = delete;  ///< use as<Date>()
 

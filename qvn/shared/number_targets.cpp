@@ -16,6 +16,17 @@ std::optional<std::int64_t> countBetween(const Digits& digits, int decimals, std
   return static_cast<std::int64_t>(0 - *magnitude);
 }
 
+template <>
+std::optional<Date> numberAs<Date>(const Digits& digits) {
+  constexpr std::int64_t kMostDigits = std::numeric_limits<std::int32_t>::digits10;
+  if (digits.isZero()) return Date();
+  if (digits.point() > kMostDigits) return std::nullopt;
+  DigitWalk walk(digits);
+  std::int32_t days = 0;
+  for (std::int64_t left = digits.point(); left > 0; --left) days = days * 10 + walk.next();
+  return Date::ofDays(digits.negative ? -days : days);
+}
+
 std::string quoted(std::string_view text) {
   constexpr std::size_t kLongest = 80;
   std::string_view shown = text.substr(0, kLongest);

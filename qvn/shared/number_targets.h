@@ -9,6 +9,7 @@
 #include <type_traits>
 
 #include "qvn/shared/currency.h"
+#include "qvn/shared/date.h"
 #include "qvn/shared/decimal.h"
 #include "qvn/shared/digits.h"
 
@@ -34,6 +35,11 @@ std::optional<Target> numberAs(const Digits& digits) {
     return count ? std::optional(static_cast<Target>(*count)) : std::nullopt;
   }
 }
+
+/// The date that lies so many days from the date of zero. What stands behind the decimal sign is the time of the day,
+/// and is dropped. Nothing outside the years 100 to 9999.
+template <>
+std::optional<Date> numberAs<Date>(const Digits& digits);
 
 /// A number type and its range, in words for messages.
 template <class Target>

@@ -67,7 +67,9 @@ FormattedText format(Date date, Pattern pattern) {
 
 std::string formatText(std::string_view text, Pattern pattern, const Locale& locale) {
   if (isOfDates(pattern)) {
-    const auto date = dateOf(text);
+    if (const auto told = dateOf(text)) return format(*told, pattern).str();
+    const auto digits = digitsOf(text, locale);
+    const auto date = digits ? numberAs<Date>(*digits) : std::nullopt;
     return date ? format(*date, pattern).str() : std::string(text);
   }
   const auto digits = pattern == Pattern::General ? std::nullopt : digitsOf(text, locale);

@@ -65,9 +65,9 @@ FormattedText format(std::int32_t value, Pattern pattern, const Locale& locale);
 /// A date under one of the date patterns or General; the others fail with "invalid call".
 FormattedText format(Date date, Pattern pattern);
 
-/// A text under a pattern: under Currency and TwoDecimals read as a number where it can be, digit for digit, under the
-/// date patterns as a date in the form "dd/mm/yyyy"; otherwise passed through unchanged, as always under General. A
-/// number of more than 309 whole digits passes through too.
+/// A text under a pattern: read as a number where it can be, digit for digit, which counts days under the date
+/// patterns; under these also read as a date in the form "dd/mm/yyyy". Passed through unchanged otherwise, as always
+/// under General, and where it is a number of more than 309 whole digits or of days that no date has.
 std::string formatText(std::string_view text, Pattern pattern, const Locale& locale);
 
 /// Any value under a pattern. Null and Empty give the empty text, a text what formatText() gives. A boolean is "True"

@@ -1,7 +1,5 @@
 // Variants as values of a known type.
 #include <cmath>
-#include <limits>
-#include <optional>
 #include <string>
 #include <type_traits>
 
@@ -43,17 +41,6 @@ Target asNumber(const Variant& value, const Locale& locale) {
               rangeName<Target>());
   }
   return *result;
-}
-
-/// The number's whole days, its decimals dropped; nothing if they are many more than a date can count.
-std::optional<std::int32_t> wholeDays(const Digits& digits) {
-  constexpr std::int64_t kMostDigits = std::numeric_limits<std::int32_t>::digits10;
-  if (digits.isZero()) return 0;
-  if (digits.point() > kMostDigits) return std::nullopt;
-  DigitWalk walk(digits);
-  std::int32_t days = 0;
-  for (std::int64_t left = digits.point(); left > 0; --left) days = days * 10 + walk.next();
-  return digits.negative ? -days : days;
 }
 
 }  // namespace
@@ -115,10 +102,9 @@ Date as<Date>(const Variant& value, const Locale& locale) {
   }
   const VariantNumber number(value);
   if (!number.digits()) failToBecome(value, "date");
-  // What stands behind the decimal sign is the time of the day.
-  const auto days = wholeDays(*number.digits());
-  if (!days) failToFit(formatValue(value, Pattern::General, locale), "a date (years 100 to 9999)");
-  return Date::fromDays(*days);
+  const auto date = numberAs<Date>(*number.digits());
+  if (!date) failToFit(formatValue(value, Pattern::General, locale), "a date (years 100 to 9999)");
+  return *date;
 }
 
 template <>

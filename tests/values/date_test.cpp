@@ -62,6 +62,10 @@ TEST(Date, TheDateOfZeroIsTheNoDateMark) {
 TEST(Date, TheRangeEndsWithTheYears100And9999) {
   EXPECT_EQ(toText(Date::fromDays(kFirstDay)), "01/01/0100");
   EXPECT_EQ(toText(Date::fromDays(kLastDay)), "31/12/9999");
+  EXPECT_EQ(Date::ofDays(kFirstDay), Date::fromDays(kFirstDay));
+  EXPECT_EQ(Date::ofDays(kLastDay), Date::fromDays(kLastDay));
+  EXPECT_EQ(Date::ofDays(kFirstDay - 1), std::nullopt);
+  EXPECT_EQ(Date::ofDays(kLastDay + 1), std::nullopt);
   EXPECT_FAILURE(Date::fromDays(kFirstDay - 1), FailureKind::Overflow, "-657435");
   EXPECT_FAILURE(Date::fromDays(kLastDay + 1), FailureKind::Overflow, "2958466");
   EXPECT_FAILURE(Date::fromDays(std::numeric_limits<std::int32_t>::max()), FailureKind::Overflow, "2147483647");

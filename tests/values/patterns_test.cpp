@@ -236,8 +236,19 @@ TEST(Patterns, ATextIsReadAsADateUnderThePatternsOfDates) {
   EXPECT_EQ(formatText("15/11/2026", Pattern::DayMonthYear, kItalian), "15/11/2026");
   EXPECT_EQ(formatText("15/11/2026", Pattern::MonthYear, kItalian), "11/2026");
   EXPECT_EQ(formatText("15/11/2026", Pattern::Year, kItalian), "2026");
-  for (const char* text : {"", "0.00.00", "31/02/2026", "12,5", "##/##/####"}) {
+  for (const char* text : {"", "0.00.00", "31/02/2026", "12,5x", "##/##/####"}) {
     EXPECT_EQ(formatText(text, Pattern::DayMonthYear, kItalian), text);
+  }
+}
+
+TEST(Patterns, ATextThatIsANumberCountsDaysUnderThePatternsOfDates) {
+  EXPECT_EQ(formatText("45000", Pattern::DayMonthYear, kItalian), "15/03/2023");
+  EXPECT_EQ(formatText("45.000,9", Pattern::MonthYear, kItalian), "03/2023");
+  EXPECT_EQ(formatText("45000", Pattern::Year, kItalian), "2023");
+  EXPECT_EQ(formatText("0", Pattern::DayMonthYear, kItalian), "30/12/1899");
+  EXPECT_EQ(formatText("-1", Pattern::DayMonthYear, kItalian), "29/12/1899");
+  for (const char* text : {"2958466", "-657435", "99999999999999999999"}) {
+    EXPECT_EQ(formatText(text, Pattern::DayMonthYear, kItalian), text) << "no date is so far away";
   }
 }
 
