@@ -57,12 +57,15 @@ TEST_P(ClaimLeads, AnyTextIsANumber) {
   EXPECT_EQ(asked(), Strings{leadCompanySql("7")});
 }
 
-TEST_P(ClaimLeads, AnEmptiedNumberIsLookedUpAndFindsNothing) {
-  panel->PROT(text("S/1"));
-  asked();
-  panel->PROT(text(""));
-  EXPECT_EQ(leads(), (Strings{"", "", "", ""}));
-  EXPECT_EQ(asked(), Strings{leadCompanySql("")});
+TEST_P(ClaimLeads, AnEmptiedNumberIsNotLookedUpAndHasNoCompany) {
+  answer(leadCompanySql(""), "COD_COMP", text("C2"));
+  for (const char* empty : {"", "'", "''"}) {
+    panel->PROT(text("S/1"));
+    asked();
+    panel->PROT(text(empty));
+    EXPECT_EQ(leads(), (Strings{"", "", "", ""}));
+    EXPECT_THAT(asked(), IsEmpty());
+  }
 }
 
 TEST_P(ClaimLeads, AnEmptyNumberOnANewPanelChangesNoCaption) {
@@ -126,9 +129,11 @@ TEST_P(ClaimLeads, EachLookUpAsksForAMissingDatabase) {
   const Subscription subscription = Globale::Eventi()->MancaDB.subscribe([&] { ++asks; });
   panel->PROT(text("0"));  // the number, and the company that goes
   EXPECT_EQ(asks, 2);
-  EXPECT_FAILURE(panel->PROT(text("")), FailureKind::Database, "closed");
+  panel->PROT(text(""));
+  EXPECT_EQ(asks, 3);
+  EXPECT_FAILURE(panel->PROT(text("S/2")), FailureKind::Database, "closed");
   EXPECT_FAILURE(panel->COD_PROD("P1"), FailureKind::Database, "closed");
-  EXPECT_EQ(asks, 4);
+  EXPECT_EQ(asks, 5);
 }
 
 TEST_P(ClaimLeads, TheNumberIsReadBeforeTheDatabaseIsAskedFor) {

@@ -50,11 +50,12 @@ constexpr std::array<WidgetLayout, 17> kWidgets{{
 
 constexpr toolkit::PanelLayout kLayout{.name = "ctlRIC_SINISTRI", .width = 10065, .height = 1830, .widgets = kWidgets};
 
-/// The lead company alone: a claim does not tell its producer. The look-up takes a quote as it comes, so it goes here.
-void findLeadCompany(const toolkit::Label& N_SINISTRO, toolkit::Label& company) {
-  std::string number = N_SINISTRO.Caption();
-  lookups::removeQuotes(number);
-  company.Caption(QVN_Ricerche::CercaCOMP_DEL_SIN(number));
+/// The lead company of a claim's number. The look-up takes quotes and an empty number as they come, so both end here.
+std::string leadCompanyOf(std::string N_SINISTRO) {
+  lookups::removeQuotes(N_SINISTRO);
+  if (!N_SINISTRO.empty()) return QVN_Ricerche::CercaCOMP_DEL_SIN(N_SINISTRO);
+  lookups::fireMancaDB();
+  return {};
 }
 
 }  // namespace
@@ -66,7 +67,8 @@ ctlRIC_SINISTRI::ctlRIC_SINISTRI(const PanelSite& site)
 
 void ctlRIC_SINISTRI::wire() {
   toolkit::Label& PROT = label("LblPROT");
-  PROT.Change = [&PROT, &company = label("LblCOD_COMP_DEL")] { findLeadCompany(PROT, company); };
+  // The lead company alone: a claim does not tell its producer.
+  PROT.Change = [&PROT, &company = label("LblCOD_COMP_DEL")] { company.Caption(leadCompanyOf(PROT.Caption())); };
   documents::describeLeads(*surface_);
   documents::openViewerOfClaim(*surface_);
 }
