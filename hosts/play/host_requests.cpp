@@ -24,25 +24,22 @@ void disconnect(Session&, const Request&, Answer&) { Globale::DB().Close(); }
 
 void unload(Session& session, const Request&, Answer&) { session.unload(); }
 
-const PanelClass& classFor(const std::string& panel, const std::string& className) {
-  try {
-    return panelClass(className);
-  } catch (const Failure& failure) {
-    throw failure.within(panel);
-  }
-}
-
 void make(Session& session, const Request& request, Answer&) {
   const std::string& name = request.text("panel");
   const std::string& className = request.text("class");
   const bool visible = request.flag("visible", true);
-  session.panels().make(name, classFor(name, className)).surface().Visible(visible);
+  const PanelClass& known = qvn::placed(name, [&]() -> const PanelClass& { return panelClass(className); });
+  session.panels().make(name, known).surface().Visible(visible);
 }
 
 void drop(Session& session, const Request& request, Answer&) { session.panels().drop(request.text("panel")); }
 
+/// Hiding takes the focus from the panel, and so runs what its field does when it is left.
 void show(Session& session, const Request& request, Answer&) {
-  session.panels().at(request.text("panel")).surface().Visible(request.flag("visible", true));
+  const std::string& name = request.text("panel");
+  const bool visible = request.flag("visible", true);
+  toolkit::Surface& surface = session.panels().at(name).surface();
+  qvn::placed(name, [&] { surface.Visible(visible); });
 }
 
 void let(Session& session, const Request& request, Answer&) {

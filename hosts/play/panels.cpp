@@ -42,7 +42,8 @@ Panel& Panels::make(const std::string& name, const PanelClass& made) {
   if (panels_.contains(name)) {
     throw Failure(FailureKind::InvalidCall, "the session has a panel \"" + name + "\" already");
   }
-  return *panels_.emplace(name, made.make({.container = *this, .name = name})).first->second;
+  auto panel = qvn::placed(name, [&] { return made.make({.container = *this, .name = name}); });
+  return *panels_.emplace(name, std::move(panel)).first->second;
 }
 
 Panel& Panels::at(const std::string& name) const {

@@ -56,6 +56,13 @@ TEST_F(Requests, ShowShowsUnlessItIsToldToHide) {
   EXPECT_TRUE(panel_.Visible());
 }
 
+TEST_F(Requests, ShowTellsThePanelThatFailsAsItIsHidden) {
+  panel_.textBox("Text1").SetFocus();
+  panel_.textBox("Text1").LostFocus = [] { throw Failure(FailureKind::Overflow, "Text1: on leaving"); };
+  EXPECT_THAT(play(R"({"do":"show","panel":"t","visible":false})"), FailsAs("overflow", "t: Text1: on leaving"));
+  EXPECT_FALSE(panel_.Visible());
+}
+
 TEST_F(Requests, CallAddsAValueWhereThereIsOne) {
   EXPECT_EQ(play(R"({"do":"call","panel":"t","name":"somma","args":[2,"3"]})").dump(),
             R"({"ok":true,"value":5,"args":[2,"3"]})");
