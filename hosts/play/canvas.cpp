@@ -4,10 +4,6 @@
 
 namespace qvn::play {
 
-namespace {
-constexpr std::string_view kBlank = " ";
-}
-
 std::vector<std::string> charactersOf(std::string_view text) {
   std::vector<std::string> characters;
   for (const char byte : text) {
@@ -26,7 +22,7 @@ std::vector<std::string> charactersOf(std::string_view text) {
 std::string& Canvas::cell(std::size_t row, std::size_t column) {
   if (rows_.size() <= row) rows_.resize(row + 1);
   std::vector<std::string>& cells = rows_[row];
-  if (cells.size() <= column) cells.resize(column + 1, std::string(kBlank));
+  if (cells.size() <= column) cells.resize(column + 1);
   return cells[column];
 }
 
@@ -41,9 +37,9 @@ void Canvas::write(int row, int column, const std::vector<std::string>& characte
 
 void Canvas::writeBehind(int row, int column, const std::vector<std::string>& characters) {
   for (const std::string& one : characters) {
-    if (row >= 0 && column >= 0 && one != kBlank) {
+    if (row >= 0 && column >= 0 && one != " ") {
       std::string& target = cell(static_cast<std::size_t>(row), static_cast<std::size_t>(column));
-      if (target == kBlank) target = one;
+      if (target.empty()) target = one;
     }
     ++column;
   }
@@ -53,7 +49,7 @@ std::vector<std::string> Canvas::lines() const {
   std::vector<std::string> lines;
   for (const auto& cells : rows_) {
     std::string line;
-    for (const std::string& one : cells) line += one;
+    for (const std::string& one : cells) line += one.empty() ? " " : one;
     line.erase(line.find_last_not_of(' ') + 1);
     lines.push_back(std::move(line));
   }

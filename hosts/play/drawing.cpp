@@ -184,7 +184,7 @@ void drawSolid(Canvas& canvas, const Drawn& drawn) {
   }
 }
 
-/// Captions, which leave what lies under them to be seen; one that is too long runs on over blank cells.
+/// Captions, which leave what lies under them to be seen; one that is too long runs on over free cells.
 void drawCaption(Canvas& canvas, const Drawn& drawn) {
   const Widget& widget = *drawn.widget;
   if (widget.Kind() == WidgetKind::CheckBox) {

@@ -162,7 +162,7 @@ TEST_F(Drawing, LetsAFieldWinOverTheCaptionThatBeginsUnderIt) {
       {.name = "Text1", .place = {0, 0, 600, 315}, .caption = "22"},
       {.name = "Label1", .kind = WidgetKind::Label, .place = {0, 0, 900, 315}, .caption = "ABCDEFGHIJKL"},
   }};
-  EXPECT_THAT(drawn(place(widgets)), ElementsAre("│22DEFG│IJKL"));
+  EXPECT_THAT(drawn(place(widgets)), ElementsAre("│22    │IJKL"));
 }
 
 TEST_F(Drawing, CutsWhatLiesToTheLeftOfThePanel) {
@@ -197,7 +197,7 @@ TEST_F(Drawing, PutsTheBoxOfACheckBoxAtTheRightBehindItsCaption) {
   EXPECT_EQ(drawn(panel).front(), "│ │ prima        dopo ║x║  altro │ │");
 }
 
-TEST_F(Drawing, RunsALongCaptionOnOverBlankCells) {
+TEST_F(Drawing, RunsALongCaptionOnOverFreeCells) {
   static constexpr std::array<WidgetLayout, 3> widgets{{
       {.name = "Label1",
        .kind = WidgetKind::Label,
