@@ -67,6 +67,7 @@ void FieldView::showContent() {
     showSelection();
   } else {
     before_.clear();
+    after_.clear();
     if (hasSelectedText()) deselect();
   }
 }
@@ -98,7 +99,9 @@ void FieldView::edit(Do act) {
   if (!byPerson()) return;
   const QString before = shown(field().Text());
   act();
-  if (subject() != nullptr && field().hasFocus() && shown(field().Text()) != before) before_.push_back(before);
+  if (subject() == nullptr || !field().hasFocus() || shown(field().Text()) == before) return;
+  before_.push_back(before);
+  after_.clear();
 }
 
 void FieldView::paste(const QString& text, std::optional<std::int32_t> at) {
@@ -121,10 +124,15 @@ void FieldView::cutByHand() {
   edit([&] { onScreen().press(*subject(), std::array{kDelete}); });
 }
 
-void FieldView::undoByHand() {
-  if (!byPerson() || before_.empty()) return;
-  const QString text = before_.back();
-  before_.pop_back();
+void FieldView::undoByHand() { writeAgain(before_, after_); }
+
+void FieldView::redoByHand() { writeAgain(after_, before_); }
+
+void FieldView::writeAgain(std::vector<QString>& texts, std::vector<QString>& others) {
+  if (!byPerson() || texts.empty()) return;
+  const QString text = texts.back();
+  texts.pop_back();
+  others.push_back(shown(field().Text()));
   onScreen().act(*subject(), "Change", [&](memory::Hands&) {
     field().Text(utf8(text));
     field().SelStart(charactersBefore(text, text.size()));
@@ -151,6 +159,7 @@ void FieldView::keyPressEvent(QKeyEvent* event) {
   if (event->matches(QKeySequence::Paste)) return pasteByHand();
   if (event->matches(QKeySequence::Cut)) return cutByHand();
   if (event->matches(QKeySequence::Undo)) return undoByHand();
+  if (event->matches(QKeySequence::Redo)) return redoByHand();
   if (std::ranges::any_of(kSelecting, [&](auto selecting) { return event->matches(selecting); })) {
     return QLineEdit::keyPressEvent(event);
   }
@@ -213,6 +222,7 @@ void FieldView::contextMenuEvent(QContextMenuEvent* event) {
     menu->addAction(QString::fromUtf8(caption), this, act)->setEnabled(enabled);
   };
   add("Annulla digitazione", !before_.empty(), [this] { undoByHand(); });
+  add("Ripeti digitazione", !after_.empty(), [this] { redoByHand(); });
   menu->addSeparator();
   add("Taglia", hasSelectedText(), [this] { cutByHand(); });
   add("Copia", hasSelectedText(), [this] { copy(); });

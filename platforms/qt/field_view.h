@@ -20,6 +20,8 @@ class FieldView final : public QLineEdit, public View {
   void cutByHand();
   /// Writes the text as it was before the last change by hand since the field has the focus.
   void undoByHand();
+  /// Writes again what the last undo took away, unless the text was changed by hand since.
+  void redoByHand();
 
  protected:
   bool event(QEvent* event) override;
@@ -43,12 +45,15 @@ class FieldView final : public QLineEdit, public View {
   /// Does what changes the text, and keeps what was there before.
   template <class Do>
   void edit(Do act);
+  /// Writes the last of the texts, and keeps what was there before among the others.
+  void writeAgain(std::vector<QString>& texts, std::vector<QString>& others);
   /// Puts the caret before the character of that index first, if there is one.
   void paste(const QString& text, std::optional<std::int32_t> at = {});
   bool takesDrop(QDropEvent& event) const;
   bool deleteWord(const QKeyEvent& event);
 
-  std::vector<QString> before_;
+  std::vector<QString> before_;  ///< what an undo goes back to, the last one first gone to
+  std::vector<QString> after_;   ///< what a redo goes on to
 };
 
 }  // namespace qvn::qt

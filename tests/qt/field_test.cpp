@@ -118,12 +118,50 @@ TEST_F(QtField, CutsAndUndoes) {
   expectAgreement();
 }
 
+TEST_F(QtField, WritesAgainWhatWasUndone) {
+  const auto undo = [this] { press(Qt::Key_Z, "\x1a", Qt::ControlModifier); };
+  const auto redo = [this] { press(Qt::Key_Z, "\x1a", Qt::ControlModifier | Qt::ShiftModifier); };
+  write("123");
+  redo();
+  EXPECT_EQ(box().Text(), "123");
+  undo();
+  undo();
+  EXPECT_EQ(box().Text(), "1");
+  int changes = 0;
+  box().Change = [&] { ++changes; };
+  redo();
+  EXPECT_EQ(box().Text(), "12");
+  EXPECT_EQ(box().SelStart(), 2);
+  redo();
+  redo();
+  EXPECT_EQ(box().Text(), "123");
+  EXPECT_EQ(changes, 2);
+  undo();
+  EXPECT_EQ(box().Text(), "12");
+  write("7");
+  redo();
+  EXPECT_EQ(box().Text(), "127") << "what was typed since stays";
+  undo();
+  undo();
+  EXPECT_EQ(box().Text(), "1");
+  expectAgreement();
+}
+
 TEST_F(QtField, UndoesNothingThatWasWrittenBeforeItHadTheFocus) {
   write("1");
   focus(box("B"));
   focus(box());
   press(Qt::Key_Z, "\x1a", Qt::ControlModifier);
   EXPECT_EQ(box().Text(), "1");
+}
+
+TEST_F(QtField, WritesNothingAgainThatWasUndoneBeforeItHadTheFocus) {
+  write("1");
+  press(Qt::Key_Z, "\x1a", Qt::ControlModifier);
+  focus(box("B"));
+  focus(box());
+  press(Qt::Key_Z, "\x1a", Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(box().Text(), "");
 }
 
 TEST_F(QtField, UndoesNothingThatHasSentTheFocusOn) {

@@ -128,6 +128,7 @@ TEST_F(QtMouse, TheMenuOfTheRightButtonKeepsTheFieldsRules) {
   EXPECT_FALSE(choose("Seleziona tutto"));
   QApplication::clipboard()->setText("ab1c");
   EXPECT_FALSE(choose("Annulla digitazione"));
+  EXPECT_FALSE(choose("Ripeti digitazione"));
   EXPECT_FALSE(choose("Taglia"));
   EXPECT_TRUE(choose("Incolla"));
   EXPECT_EQ(box().Text(), "ab");
@@ -141,6 +142,8 @@ TEST_F(QtMouse, TheMenuOfTheRightButtonKeepsTheFieldsRules) {
   EXPECT_EQ(box().Text(), "");
   EXPECT_TRUE(choose("Annulla digitazione"));
   EXPECT_EQ(box().Text(), "ab");
+  EXPECT_TRUE(choose("Ripeti digitazione"));
+  EXPECT_EQ(box().Text(), "");
   comeBack();
   expectAgreement();
 }

@@ -7,7 +7,6 @@
 #include <QToolBar>
 #include <map>
 #include <memory>
-#include <set>
 
 #include "hosts/ufficio/help.h"
 #include "hosts/ufficio/italian.h"
@@ -187,12 +186,31 @@ TEST_F(OfficeCommands, AreItalianInQtsOwnMenusAndDialogsToo) {
   EXPECT_FALSE(entries.contains("Paste")) << entries.toStdString();
 }
 
-TEST_F(OfficeCommands, TellOfEveryScreenSomethingElse) {
-  std::set<QString> texts;
+TEST_F(OfficeCommands, TellOfEachScreenWhatItIsFor) {
+  const std::map<std::string_view, const char*> beginnings{
+      {"iva", "I codici IVA: "},
+      {"provvigioni", "La provvigione di una compagnia che partecipa a una polizza, "},
+      {"quote-polizze", "Le compagnie che partecipano a una polizza, "},
+      {"quote-sinistri", "Le compagnie che partecipano a un sinistro, "},
+      {"sospesi", "I titoli sospesi di una polizza, "},
+      {"estratti", "L'estratto conto di un cliente, "},
+      {"fidi", "I fidi di un cliente: "},
+      {"ricerca-polizze", "Cerca tra le polizze "},
+      {"ricerca-sinistri", "Cerca tra i sinistri "},
+      {"righe-iva", "La riga IVA di un movimento: "},
+      {"prima-nota", "Una registrazione di prima nota: "},
+      {"giornale", "Il libro giornale di un anno "},
+      {"tipi-movimenti", "I tipi di movimento della prima nota, "},
+      {"righe-tipi", "Le righe con cui comincia una registrazione "},
+      {"stampe-contabili", "I codici delle stampe contabili, "},
+      {"rami", "I rami: "},
+  };
   for (const ufficio::ScreenClass& made : ufficio::screenClasses()) {
-    const QString text = ufficio::helpOn(made.name);
-    EXPECT_GE(text.size(), 100) << made.name;
-    EXPECT_TRUE(texts.insert(text).second) << made.name;
+    QTextDocument text;
+    text.setHtml(ufficio::helpOn(made.name));
+    ASSERT_TRUE(beginnings.contains(made.name)) << made.name;
+    EXPECT_THAT(qt::utf8(text.toPlainText()), testing::StartsWith(beginnings.at(made.name)));
+    EXPECT_GE(text.characterCount(), 90) << made.name;
   }
 }
 

@@ -60,6 +60,25 @@ TEST_F(OfficeNothingLost, ItIsStoredOnceTheFieldWasLeftWell) {
   EXPECT_FALSE(window().editing());
 }
 
+TEST_F(OfficeNothingLost, ACodeThatCannotBeLookedUpForAWhileStaysAsTyped) {
+  choose("righe-iva");
+  open("12  ");
+  edit();
+  {
+    const Writer other(sample.file());
+    write("9");
+    EXPECT_EQ(field("txtCOD_IVA").text(), "9");
+    EXPECT_THAT(told(), HasSubstr("nuovo contenuto: una ricerca nel database non è riuscita; riprovare tra poco."));
+    EXPECT_TRUE(window().editing());
+  }
+  write("9");
+  EXPECT_EQ(field("txtCOD_IVA").text(), "99");
+  EXPECT_EQ(screen().panels().front()->surface().label("LblDESC_IVA").Caption(), "Ordinaria, indetraibile");
+  save();
+  EXPECT_EQ(told(), "Il record è stato salvato.");
+  EXPECT_EQ(sample.line("SELECT COD_IVA FROM MOVIMENTI_IVA WHERE N_MOVIMENTO = 12"), "99");
+}
+
 TEST_F(OfficeNothingLost, PercentsOfAParticipantThatIsGoneAreNotStored) {
   choose("provvigioni");
   open("92/00000001");

@@ -139,6 +139,38 @@ TEST_F(OfficeTyping, MarksChangesInTheTitle) {
   EXPECT_FALSE(window().isWindowModified());
 }
 
+TEST_F(OfficeTyping, TakesBackWhatWasTypedByControlZ) {
+  open("22  ");
+  edit();
+  press(Qt::Key_Return);
+  write("altra");
+  EXPECT_EQ(field("txtDescrizione").text(), "ALTRA");
+  for (int key = 0; key < 5; ++key) press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(field("txtDescrizione").text(), "Aliquota ordinaria");
+  EXPECT_FALSE(window().isWindowModified());
+  for (int key = 0; key < 5; ++key) press(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(field("txtDescrizione").text(), "ALTRA");
+  EXPECT_TRUE(window().isWindowModified());
+}
+
+TEST_F(OfficeTyping, TakesACodeBackWithWhatItStandsFor) {
+  choose("quote-polizze");
+  open("92/00000001");
+  edit();
+  field("TxtCOD_COMP").setFocus();
+  see();
+  const auto stands = [this] { return screen().panels().front()->surface().label("DESC_COMPAGNIA").Caption(); };
+  const QString code = field("TxtCOD_COMP").text();
+  const std::string company = stands();
+  ASSERT_NE(company, "");
+  write("zz");
+  EXPECT_EQ(stands(), "");
+  for (int key = 0; key < 2; ++key) press(Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(field("TxtCOD_COMP").text(), code);
+  EXPECT_EQ(stands(), company);
+  EXPECT_FALSE(window().isWindowModified());
+}
+
 TEST_F(OfficeTyping, StoresAVatLineOfAMovementThatHadNone) {
   choose("righe-iva");
   open("12  ");
