@@ -15,9 +15,6 @@ namespace {
 using toolkit::Widget;
 using toolkit::WidgetKind;
 
-constexpr std::array<std::string_view, 10> kKinds{"text box", "label", "combo box", "check box", "frame",
-                                                  "button",   "date",  "list",      "grid",      "data control"};
-
 /// A property of all widgets.
 struct Common {
   std::string_view name;
@@ -25,8 +22,7 @@ struct Common {
 };
 
 constexpr std::array kCommon{
-    Common{"Kind",
-           [](const Widget& w) -> Variant { return std::string(kKinds.at(static_cast<std::size_t>(w.Kind()))); }},
+    Common{"Kind", [](const Widget& w) -> Variant { return std::string(nameOf(w.Kind())); }},
     Common{"Enabled", [](const Widget& w) -> Variant { return w.Enabled(); }},
     Common{"Visible", [](const Widget& w) -> Variant { return w.Visible(); }},
     Common{"BackColor", [](const Widget& w) -> Variant { return static_cast<std::int32_t>(w.BackColor()); }},

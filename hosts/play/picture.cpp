@@ -10,12 +10,6 @@ namespace {
 using toolkit::Widget;
 using toolkit::WidgetKind;
 
-std::string_view kindName(WidgetKind kind) {
-  static constexpr std::array<std::string_view, 10> names{
-      "text box", "label", "combo box", "check box", "frame", "button", "date", "list", "grid", "data control"};
-  return names.at(static_cast<std::size_t>(kind));
-}
-
 std::string_view alignName(toolkit::Align align) {
   static constexpr std::array<std::string_view, 3> names{"left", "right", "center"};
   return names.at(static_cast<std::size_t>(align));
@@ -90,7 +84,7 @@ Answer pictureOf(const Widget& widget) {
   const toolkit::Place place = widget.place();
   Answer picture = Answer::object();
   picture["name"] = widget.Name();
-  picture["kind"] = kindName(widget.Kind());
+  picture["kind"] = nameOf(widget.Kind());
   picture["tab"] = widget.TabIndex();
   picture["frame"] = widget.frame() != nullptr ? Answer(widget.frame()->Name()) : Answer();
   picture["left"] = place.left;

@@ -22,6 +22,9 @@ enum class WidgetKind : std::uint8_t {
   DataControl,
 };
 
+/// "text box", "label", "combo box", "check box", "frame", "button", "date", "list", "grid" or "data control".
+std::string_view nameOf(WidgetKind kind);
+
 /// Position and size in twips, relative to the surrounding frame.
 struct Place {
   std::int32_t left = 0;
