@@ -61,7 +61,7 @@ bool DateEntry::separate() {
     if (start <= part.first || start >= part.next) continue;
     char& tens = at(text, part.first);
     char& units = at(text, part.first + 1);
-    if (tens == '#') return false;
+    if (tens == '#' || (tens == '0' && units == '#')) return false;
     if (units == '#') {
       units = tens;
       tens = '0';

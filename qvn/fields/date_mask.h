@@ -23,8 +23,8 @@ struct DateEntry {
   /// Takes a digit at the caret or in place of the selection; the caret goes behind it and behind the slash after it. A
   /// separator (one of "/.-,") leads to the next part and fills a day or month of one digit up with a zero in front; it
   /// does nothing where the part before is just done. False, with nothing done, for any other character, for a digit at
-  /// the end and for a separator anywhere else: over a selection, at the head of a part, in one that is blank or in the
-  /// year.
+  /// the end and for a separator anywhere else: over a selection, at the head of a part, in one that is blank or a lone
+  /// zero, or in the year.
   bool type(char32_t character);
   /// Blank the selection, or the place before the caret, which goes there, or the place behind it. True if a digit
   /// went.

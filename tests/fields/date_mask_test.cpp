@@ -151,7 +151,8 @@ INSTANTIATE_TEST_SUITE_P(All, RefusedDateKeys,
                                          Editing{"15/#|1/2026", "/", ""}, Editing{"15/11/20|26", "/", ""},
                                          Editing{"|15/11/2026", "/", ""}, Editing{"1#/|11/2026", "/", ""},
                                          Editing{"[15/11/2026]", "/", ""}, Editing{"[15/11/2026]", "#", ""},
-                                         Editing{"[15/11/2026]", " ", ""}));
+                                         Editing{"[15/11/2026]", " ", ""}, Editing{"0|#/##/####", "/", ""},
+                                         Editing{"12/0|#/####", "-", ""}));
 
 TEST(DateMask, TellsWhetherADigitWent) {
   struct Refusal {
