@@ -28,6 +28,9 @@ TEST_P(StatementDates, ShowWhatIsWrittenAndGiveItBack) { withBoth(&StatementDate
 TEST_P(StatementDates, TheSameOneWrittenAgainChangesNothing) { withBoth(&StatementDates::keepsTheSameOne); }
 TEST_P(StatementDates, TheNoDateMarkBlanks) { withBoth(&StatementDates::isBlankedByTheNoDateMark); }
 TEST_P(StatementDates, ANullLeavesTheDateThatIsShown) { withBoth(&StatementDates::staysAtANull); }
+TEST_P(StatementDates, ATextThatIsANumberIsTakenForItsDay) {
+  withBoth(&StatementDates::takesATextThatIsANumberForItsDay);
+}
 TEST_P(StatementDates, WhatIsNoDateFailsNamingTheField) { withBoth(&StatementDates::refusesWhatIsNoDate); }
 TEST_P(StatementDates, APartlyTypedOneIsReadAsItStands) { withBoth(&StatementDates::readsAndReplacesAPartlyTypedOne); }
 TEST_P(StatementDates, AreTypedOverTheirMask) { withBoth(&StatementDates::isTypedOverItsMask); }

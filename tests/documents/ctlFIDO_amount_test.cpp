@@ -149,6 +149,7 @@ TEST_P(CreditDate, ShowsWhatIsWrittenAndGivesItBack) { showsWhatIsWritten(date);
 TEST_P(CreditDate, TheSameOneWrittenAgainChangesNothing) { keepsTheSameOne(date); }
 TEST_P(CreditDate, TheNoDateMarkBlanks) { isBlankedByTheNoDateMark(date); }
 TEST_P(CreditDate, ANullLeavesTheDateThatIsShown) { staysAtANull(date); }
+TEST_P(CreditDate, ATextThatIsANumberIsTakenForItsDay) { takesATextThatIsANumberForItsDay(date); }
 TEST_P(CreditDate, WhatIsNoDateFailsNamingTheField) { refusesWhatIsNoDate(date); }
 TEST_P(CreditDate, APartlyTypedOneIsReadAsItStands) { readsAndReplacesAPartlyTypedOne(date); }
 TEST_P(CreditDate, IsTypedOverItsMask) { isTypedOverItsMask(date); }

@@ -74,6 +74,15 @@ class LineDates : public LinePanel<P> {
     EXPECT_EQ(this->heard(), Strings{});
   }
 
+  void takesATextThatIsANumberForItsDay(const Property& date) {
+    start(date);
+    let(date, text("46087"));
+    EXPECT_EQ(get(date), text("06/03/2026"));
+    EXPECT_EQ(this->heard(), Strings{date.name});
+    let(date, text("46087"));
+    EXPECT_EQ(this->heard(), Strings{});
+  }
+
   void refusesWhatIsNoDate(const Property& date) {
     start(date);
     EXPECT_FAILURE(let(date, text("domani")), FailureKind::TypeMismatch, date.field());
