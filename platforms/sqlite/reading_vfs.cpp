@@ -1,5 +1,6 @@
 #include "platforms/sqlite/reading_vfs.h"
 
+#include <new>
 #include <sqlite3.h>
 
 namespace qvn::sqlite {
@@ -18,21 +19,31 @@ int openForReading(sqlite3_vfs* /*vfs*/, const char* name, sqlite3_file* file, i
 
 int refuseToDelete(sqlite3_vfs* /*vfs*/, const char* /*name*/, int /*syncFolder*/) { return SQLITE_READONLY; }
 
-}  // namespace
+constexpr const char* kName = "qvn-reading";
+sqlite3_vfs reading;
 
-const char* readingVfs() {
-  static constexpr const char* kName = "qvn-reading";
-  static sqlite3_vfs vfs = [] {
+/// Known to SQLite for as long as the library is loaded; SQLite itself may stay when the library is unloaded.
+struct Known {
+  Known() {
     below = sqlite3_vfs_find(nullptr);
-    sqlite3_vfs reading = *below;
+    if (below == nullptr) throw std::bad_alloc();
+    reading = *below;
     reading.zName = kName;
     reading.pNext = nullptr;
     reading.xOpen = openForReading;
     reading.xDelete = refuseToDelete;
-    return reading;
-  }();
-  static const int registered = sqlite3_vfs_register(&vfs, 0);
-  return registered == SQLITE_OK ? kName : nullptr;
+    if (sqlite3_vfs_register(&reading, 0) != SQLITE_OK) throw std::bad_alloc();
+  }
+  ~Known() { sqlite3_vfs_unregister(&reading); }
+  Known(const Known&) = delete;
+  Known& operator=(const Known&) = delete;
+};
+
+}  // namespace
+
+const char* readingVfs() {
+  static const Known known;
+  return kName;
 }
 
 }  // namespace qvn::sqlite
