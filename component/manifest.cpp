@@ -71,10 +71,17 @@ std::string text() {
 void write(const std::string& path) {
   if (isThere(path)) requireManifest(path);
   const std::string whole = text();
-  std::ofstream file(pathOf(path), std::ios::binary | std::ios::trunc);
+  // Beside it first: one that cannot be written to its end leaves the earlier one as it was.
+  const std::filesystem::path beside = pathOf(path + ".part");
+  std::ofstream file(beside, std::ios::binary | std::ios::trunc);
+  if (!file) refuse(path, "the manifest cannot be written");
   file.write(whole.data(), static_cast<std::streamsize>(whole.size()));
   file.close();
-  if (!file) refuse(path, "the manifest cannot be written");
+  std::error_code error;
+  if (file) std::filesystem::rename(beside, pathOf(path), error);
+  if (file && !error) return;
+  std::filesystem::remove(beside, error);
+  refuse(path, "the manifest cannot be written");
 }
 
 bool remove(const std::string& path) {

@@ -105,6 +105,18 @@ TEST_F(Manifest, takesThePlaceOfAnEarlierOne) {
   EXPECT_EQ(first, written());
 }
 
+TEST_F(Manifest, staysAsItIsWhereAnotherCannotBeWritten) {
+  tell(path());
+  ASSERT_EQ(QVN_S_OK, DllRegisterServer());
+  const std::string first = written();
+  std::filesystem::create_directory(path() + ".part");
+  EXPECT_EQ(QVN_SELFREG_E_CLASS, DllRegisterServer());
+  EXPECT_THAT(qvn_last_message(), HasSubstr("cannot be written"));
+  EXPECT_EQ(first, written());
+  EXPECT_TRUE(std::filesystem::exists(path() + ".part"));
+  EXPECT_EQ(QVN_S_OK, DllUnregisterServer());
+}
+
 TEST_F(Manifest, isRemoved) {
   tell(path());
   ASSERT_EQ(QVN_S_OK, DllRegisterServer());
