@@ -9,6 +9,7 @@
 #include "component/screen_object.h"
 #include "component/values.h"
 #include "component/widget_properties.h"
+#include "qvn/shared/failure.h"
 
 using namespace qvn::component;
 
@@ -55,7 +56,10 @@ int32_t qvn_form_text(qvn_object* screen, const char* form, int32_t row, int32_t
 }
 
 int32_t qvn_panel_show(qvn_object* panel, int32_t visible) {
-  return guarded([&] { ofKind<PanelObject>(panel).surface().Visible(visible != 0); });
+  return guarded([&] {
+    qvn::toolkit::Surface& surface = ofKind<PanelObject>(panel).surface();
+    qvn::placed(std::string(surface.name()), [&] { surface.Visible(visible != 0); });
+  });
 }
 
 int32_t qvn_widget_at(qvn_object* panel, int32_t index, const char** name) {

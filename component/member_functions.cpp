@@ -6,6 +6,7 @@
 #include "component/object.h"
 #include "component/qvn.h"
 #include "component/values.h"
+#include "qvn/shared/failure.h"
 
 using namespace qvn::component;
 
@@ -21,7 +22,7 @@ std::span<const qvn_value> givenValues(const qvn_value* values, std::size_t coun
 int32_t qvn_member_at(const qvn_object* object, int32_t index, qvn_member* member) {
   return guarded([&] {
     given(member, "the place for the member") = {.name = nullptr, .type = nullptr, .kind = QVN_GET};
-    const ListedMember& found = at(given(object, "the object").members(), index, "member");
+    const ListedMember& found = at(present(object, "the object").members(), index, "member");
     *member = {.name = found.name.c_str(), .type = found.type.c_str(), .kind = found.kind};
   });
 }
@@ -35,7 +36,10 @@ int32_t qvn_get(qvn_object* object, const char* name, qvn_value* value) {
 
 int32_t qvn_let(qvn_object* object, const char* name, const qvn_value* value) {
   return guarded([&] {
-    present(object, "the object").let(givenText(name, "the property's name"), toVariant(given(value, "the value")));
+    Object& holder = present(object, "the object");
+    const std::string_view property = givenText(name, "the property's name");
+    const qvn_value& written = given(value, "the value");
+    holder.let(property, qvn::placed(holder.placeOf(property), [&] { return toVariant(written); }));
   });
 }
 
@@ -44,7 +48,8 @@ int32_t qvn_call(qvn_object* object, const char* name, const qvn_value* argument
     if (result != nullptr) *result = {};
     Object& callee = present(object, "the object");
     const std::string_view method = givenText(name, "the method's name");
-    std::vector<qvn::Variant> variants = toVariants(givenValues(arguments, count));
+    const std::span<const qvn_value> values = givenValues(arguments, count);
+    auto variants = qvn::placed(callee.placeOf(method), [&] { return toVariants(values); });
     const qvn::Variant given = callee.call(method, variants);
     if (result != nullptr) give(given, *result);
   });

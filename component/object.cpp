@@ -24,14 +24,11 @@ void qvn_object::destroyGone() noexcept {
   }
 }
 
-const qvn::component::MemberList& qvn_object::members() const {
-  static const qvn::component::MemberList none;
-  return none;
-}
+const qvn::component::MemberList& qvn_object::members() const { refuse(); }
 
 void qvn_object::refuse() const {
   throw qvn::component::InvalidArgument(
-      std::string("an object of the class ").append(className()).append(" has no members"));
+      std::string("an object of the class ").append(className()).append(" has no members to get, let or call"));
 }
 
 qvn::Variant qvn_object::get(std::string_view) { refuse(); }

@@ -29,9 +29,11 @@ struct qvn_object {
 
   /// Closed with a zero byte, and lasting as long as the object.
   virtual std::string_view className() const = 0;
-  /// The public members in interface order; none for an object without.
+  /// The public members in interface order; "invalid argument" for an object without.
   virtual const qvn::component::MemberList& members() const;
 
+  /// How messages call a member: with the panel's name in front, if it is one of a panel.
+  virtual std::string placeOf(std::string_view member) const { return std::string(member); }
   /// Access to members by name; "invalid argument" for an object without members.
   virtual qvn::Variant get(std::string_view name);
   virtual void let(std::string_view name, const qvn::Variant& value);
@@ -60,8 +62,9 @@ using Object = qvn_object;
 
 /// An object that is there. "invalid argument" for a null, and for one that went while a handler that it is lent to
 /// still runs.
-inline Object& present(Object* object, const char* what) {
-  Object& any = given(object, what);
+template <class MaybeConst>
+MaybeConst& present(MaybeConst* object, const char* what) {
+  MaybeConst& any = given(object, what);
   if (any.gone()) throw InvalidArgument(std::string(what).append(" is gone"));
   return any;
 }
@@ -69,7 +72,7 @@ inline Object& present(Object* object, const char* what) {
 /// An object of the kind that a call is for. "invalid argument" for a null, one that is gone, or another kind.
 template <class Kind>
 Kind& ofKind(Object* object) {
-  Object& any = present(object, Kind::kKind);
+  Object& any = present(&given(object, Kind::kKind), "the object");
   auto* found = dynamic_cast<Kind*>(&any);
   if (found == nullptr) {
     throw InvalidArgument(

@@ -22,14 +22,12 @@ int32_t byHand(qvn_object* screen, Do&& act) noexcept {
   return guarded([&] { act(ofKind<ScreenObject>(screen).hands()); });
 }
 
-/// The same at a widget of a panel, which failures name.
+/// The same at a widget of a panel.
 template <class Do>
 int32_t atWidget(qvn_object* panel, const char* widget, Do&& act) noexcept {
   return guarded([&] {
     auto& object = ofKind<PanelObject>(panel);
-    ScreenObject& screen = object.screen();
-    const std::string place(object.surface().name());
-    qvn::placed(place, [&] { act(screen.hands(), object.surface().widget(givenText(widget, "the widget's name"))); });
+    act(object.screen().hands(), object.surface().widget(givenText(widget, "the widget's name")));
   });
 }
 
@@ -89,7 +87,13 @@ int32_t qvn_operator_click(qvn_object* panel, const char* widget) {
 
 int32_t qvn_operator_choose(qvn_object* panel, const char* widget, const char* item) {
   return atWidget(panel, widget, [&](qvn::Operator& hands, qvn::toolkit::Widget& found) {
-    hands.choose(found.owner().comboBox(found.Name()), givenText(item, "the item"));
+    auto* const list = dynamic_cast<qvn::toolkit::ComboBox*>(&found);
+    if (list == nullptr) {
+      throw qvn::Failure(
+          qvn::FailureKind::InvalidCall,
+          std::string(found.owner().name()).append(".").append(found.Name()).append(" is no closed list"));
+    }
+    hands.choose(*list, givenText(item, "the item"));
   });
 }
 
@@ -103,7 +107,9 @@ int32_t qvn_operator_failed_acts(qvn_object* screen, qvn_value* text) {
     given(text, "the place for the text") = {};
     std::string lines;
     for (const qvn::FailedAct& failed : ofKind<ScreenObject>(screen).hands().failedActs()) {
-      lines.append(failed.form).append(": ").append(failed.failure.what()).append("\n");
+      const std::string_view message = failed.failure.what();
+      const std::string form = failed.form + ": ";
+      lines.append(message.starts_with(form) ? "" : form).append(message).append("\n");
     }
     give(lines, *text);
   });

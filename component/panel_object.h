@@ -22,6 +22,9 @@ class PanelObject final : public Object, private toolkit::Container {
 
   std::string_view className() const override { return class_.name; }
   const MemberList& members() const override { return class_.members; }
+  std::string placeOf(std::string_view member) const override {
+    return std::string(panel_->surface().name()).append(".").append(member);
+  }
   Variant get(std::string_view name) override { return getByName(*panel_, name); }
   void let(std::string_view name, const Variant& value) override { letByName(*panel_, name, value); }
   Variant call(std::string_view name, std::span<Variant> arguments) override {

@@ -5,9 +5,10 @@
 // except where a length is told. Names of classes, members and widgets' properties match without regard to case; names
 // of widgets and forms are exact.
 //
-// Most functions give a status, QVN_OK or the reason for which nothing came of the call, and leave a message; no
-// exception leaves the library. What is given back through a pointer is empty then: a value QVN_EMPTY, a reference
-// null. A null where none is allowed, and an object of another kind than the call is for, are QVN_INVALID_ARGUMENT.
+// Most functions give a status, QVN_OK or the reason for which the call was not done to its end, and leave a message;
+// no exception leaves the library. What is given back through a pointer is empty then: a value QVN_EMPTY, a reference
+// null. What a call has written before it fails stays written, as does what the operator has typed. A null where none
+// is allowed, and an object of another kind than the call is for, are QVN_INVALID_ARGUMENT.
 #pragma once
 
 // NOLINTBEGIN(modernize-use-using, modernize-deprecated-headers): this is C.
@@ -48,12 +49,14 @@ enum {
   QVN_UNKNOWN = 11  /// what the library does not foresee
 };
 
-/// The message of the last call that gave a status, the entry points among them: it names panel and member or widget,
-/// and the offending text, and is empty if the call has succeeded. It stands until the next such call.
+/// The message of the last call that gave a status, the entry points among them: it names panel and member or widget
+/// where there are such, and the offending text as it was handed in, and is empty if the call has succeeded. It stands
+/// until the next such call.
 QVN_API const char* QVN_CALL qvn_last_message(void);
-/// A status in words, "type mismatch", "invalid argument"; empty for what is none.
+/// A status in words, "type mismatch", "invalid argument"; empty for QVN_OK and for what is none.
 QVN_API const char* QVN_CALL qvn_status_name(int32_t status);
-/// Leaves a message and gives the status back: `return qvn_fail(status, message);` ends a handler that fails.
+/// Leaves a message, none for null, and gives the status back: `return qvn_fail(status, message);` ends a handler that
+/// fails.
 QVN_API int32_t QVN_CALL qvn_fail(int32_t status, const char* message);
 /// The library's version, "0.1.0".
 QVN_API const char* QVN_CALL qvn_version(void);
@@ -67,9 +70,10 @@ typedef struct qvn_object qvn_object;
 QVN_API int32_t QVN_CALL qvn_addref(qvn_object* object);
 /// One reference less; gives what is left, 0 for null. An object goes with its last reference. A panel that goes inside
 /// a handler, its own among them, goes at once; nothing more is told of it. Where an outer handler still has it lent,
-/// it is QVN_INVALID_ARGUMENT to the calls made with it, and counts 0 for good.
+/// it is QVN_INVALID_ARGUMENT to the calls made with it but qvn_class_of, and counts 0 for good.
 QVN_API int32_t QVN_CALL qvn_release(qvn_object* object);
-/// The name of the object's class: that of the panel, or "clsQVN_Eventi", "screen", "class", "subscription".
+/// The name of the object's class: that of the panel, or "clsQVN_Eventi", "screen", "class", "subscription". It stands
+/// as long as the library.
 QVN_API int32_t QVN_CALL qvn_class_of(const qvn_object* object, const char** name);
 
 // Values.
@@ -137,8 +141,9 @@ typedef struct qvn_value {
 /// Gives back what the value owns and leaves it empty. Null is allowed.
 QVN_API void QVN_CALL qvn_value_clear(qvn_value* value);
 /// The value as another kind, under the conversions of the fields: numbers are checked for their range and round half
-/// to even, a text is read in Italian form, and any number, date or boolean has its text. QVN_EMPTY, QVN_NULL and
-/// QVN_OBJECT are nothing to convert to. Both may be the same value, which then gives back what it owned.
+/// to even, those of days drop their decimals, a text is read in Italian form, and any number, date or boolean has its
+/// text. QVN_EMPTY, QVN_NULL and QVN_OBJECT are nothing to convert to. Both may be the same value, which then gives
+/// back what it owned.
 QVN_API int32_t QVN_CALL qvn_value_convert(const qvn_value* value, int32_t kind, qvn_value* converted);
 
 // The component: registered, asked for class objects, unloaded. These four bear the names and the results that the
@@ -216,7 +221,9 @@ QVN_API int32_t QVN_CALL qvn_call(qvn_object* object, const char* name, const qv
 
 // Handlers. Each function gives a subscription, and the handler is called until that is released; several are called
 // in the order of their subscription, one that was subscribed twice twice. `data` comes back as it was given. A handler
-// may call the library and release anything, its own subscription and panel among them. A handler does not throw.
+// may call the library and release anything, its own subscription and panel among them. A handler does not throw. The
+// texts that it is handed stand until it returns. Where its status fails something, one that is no kind of failure,
+// from QVN_INVALID_ARGUMENT on, fails as QVN_INVALID_CALL.
 
 /// The library misses its database: the host calls ImpostaDB now, on the event object. A status other than QVN_OK fails
 /// what asked for the database, with the last message.
@@ -238,13 +245,14 @@ QVN_API int32_t QVN_CALL qvn_on_failed(qvn_object* panel, qvn_failed_handler han
 /// What happens to one of the library's own windows: the list, the wait form, the viewers.
 enum { QVN_FORM_LOADED = 0, QVN_FORM_SHOWN = 1, QVN_FORM_HIDDEN = 2, QVN_FORM_UNLOADED = 3 };
 /// A form was loaded; stands modally, and waits for the operator; was hidden; was unloaded. At QVN_FORM_SHOWN a host
-/// may read the form and lay down what the operator does at it.
+/// may read the form and lay down what the operator does at it, unless that was laid down before.
 typedef void(QVN_CALL* qvn_form_handler)(void* data, qvn_object* screen, const char* form, int32_t event);
 QVN_API int32_t QVN_CALL qvn_on_form(qvn_object* screen, qvn_form_handler handler, void* data,
                                      qvn_object** subscription);
 
 // The operator: what a person would do at the screen. What the rules of the panels fail with on the way goes to
-// qvn_on_failed; "invalid call" is what nobody can do, as typing where nothing has the focus.
+// qvn_on_failed; "invalid call" is what nobody can do, as typing where nothing has the focus, and "no such member" a
+// widget that is not there.
 
 /// Types into what has the focus, key by key. Characters stand for themselves, "{{" for a brace; {Enter} {Tab}
 /// {ShiftTab} {Backspace} {Delete} {Escape} {Left} {Right} {Up} {Down} {Home} {End} for the keys of those names.

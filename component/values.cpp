@@ -28,6 +28,9 @@ Element* allocated(std::size_t count) {
 
 std::string textOf(const qvn_text& text) {
   if (text.length == 0) return {};
+  if (text.length > std::numeric_limits<std::ptrdiff_t>::max()) {
+    throw InvalidArgument("the text's length is beyond all memory");
+  }
   return {&given(text.data, "the data of the text"), text.length};
 }
 

@@ -245,6 +245,12 @@ TEST_F(Listing, tellsWhichActsCouldNotBeDone) {
   EXPECT_EQ("", get(panel(), "COD_COMP").text());
 }
 
+TEST_F(Listing, tellsTheFormOnceWhoseKeyIsNone) {
+  clerk().acts = {{.kind = QVN_ACT_KEY, .number = 0, .text = ""}};
+  type(on(), "?");
+  EXPECT_THAT(failedActs(), testing::StartsWith("Lista: \"\" is not one key"));
+}
+
 /// A host that opens the database and, when it hears of one thing, drops all that it has.
 struct Leaving : Belongings {
   std::string connection;

@@ -313,10 +313,13 @@ struct Nested {
     EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "the object is gone", qvn_get(lent, "DESCRIZIONE", value.place())));
     EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "the object is gone", qvn_let(lent, "DESCRIZIONE", &ours)));
     EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "the object is gone", qvn_call(lent, "Attiva", nullptr, 0, nullptr)));
-    EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "panel is gone", qvn_widget_get(lent, "TxtIVA", "Text", value.place())));
+    EXPECT_TRUE(
+        failed(QVN_INVALID_ARGUMENT, "the object is gone", qvn_widget_get(lent, "TxtIVA", "Text", value.place())));
     EXPECT_EQ(0, qvn_addref(lent));
     EXPECT_EQ(0, qvn_release(lent));
     EXPECT_EQ(0, qvn_release(lent));
+    qvn_member member{};
+    EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "the object is gone", qvn_member_at(lent, 0, &member)));
     const char* name = nullptr;
     EXPECT_EQ(QVN_OK, qvn_class_of(lent, &name));
     EXPECT_STREQ("ctlIVA", name);

@@ -51,7 +51,7 @@ TEST_F(Members, areListedWithinTheirNumber) {
   EXPECT_TRUE(failed(QVN_SUBSCRIPT_OUT_OF_RANGE, "member 6", qvn_member_at(made.get(), 6, &member)));
   EXPECT_EQ(nullptr, member.name);
   EXPECT_TRUE(failed(QVN_SUBSCRIPT_OUT_OF_RANGE, "-1", qvn_member_at(made.get(), -1, &member)));
-  EXPECT_TRUE(failed(QVN_SUBSCRIPT_OUT_OF_RANGE, "", qvn_member_at(screen().get(), 0, &member)));
+  EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "screen has no members", qvn_member_at(screen().get(), 0, &member)));
   EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "null", qvn_member_at(nullptr, 0, &member)));
   EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "null", qvn_member_at(made.get(), 0, nullptr)));
 }
@@ -64,6 +64,18 @@ TEST_F(Members, areReadWrittenAndCalledWithoutRegardToCase) {
   call(panel, "ATTIVA");
   let(panel, "CODICE", number(22));
   EXPECT_EQ(22, get(panel, "codice")->as.byte);
+}
+
+TEST_F(Members, areNamedWithTheirPanelWhereAValueIsNone) {
+  const Handle onScreen = screen();
+  const Handle panel = create(onScreen, "ctlQ_POLIZZE", "quota");
+  qvn_value far = ofKind(QVN_DATE);
+  far.as.date = 2'958'466;
+  EXPECT_TRUE(failed(QVN_OVERFLOW, "quota.d_rimessa: 2958466 days", qvn_let(panel.get(), "d_rimessa", &far)));
+  EXPECT_TRUE(failed(QVN_OVERFLOW, "quota.Calcola_QUOTA: 2958466 days",
+                     qvn_call(panel.get(), "Calcola_QUOTA", &far, 1, nullptr)));
+  const Handle events = eventsOf(panel);
+  EXPECT_TRUE(failed(QVN_OVERFLOW, "ImpostaDB: 2958466 days", qvn_call(events.get(), "ImpostaDB", &far, 1, nullptr)));
 }
 
 TEST_F(Members, giveTheirResults) {

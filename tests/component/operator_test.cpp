@@ -100,7 +100,9 @@ TEST_F(Operator, clicksAndChooses) {
   ASSERT_EQ(QVN_OK, qvn_operator_click(panel.get(), "ChkDELEGATARIA"));
   EXPECT_EQ(1, get(panel, "DELEGATARIA")->as.boolean);
   EXPECT_TRUE(failed(QVN_INVALID_CALL, "TxtQUOTA", qvn_operator_click(panel.get(), "TxtQUOTA")));
-  EXPECT_TRUE(failed(QVN_NO_SUCH_MEMBER, "TxtQUOTA", qvn_operator_choose(panel.get(), "TxtQUOTA", "x")));
+  EXPECT_TRUE(failed(QVN_INVALID_CALL, "panel.TxtQUOTA is no", qvn_operator_choose(panel.get(), "TxtQUOTA", "x")));
+  EXPECT_TRUE(failed(QVN_NO_SUCH_MEMBER, "panel: there", qvn_operator_choose(panel.get(), "TxtGONE", "x")));
+  EXPECT_TRUE(failed(QVN_INVALID_CALL, "panel.TxtQUOTA is neither", qvn_operator_click(panel.get(), "TxtQUOTA")));
 
   const Handle& types = active("ctlDATI_MOVIMENTI");
   Value count;
@@ -271,6 +273,14 @@ TEST_F(Looking, hidesAndShowsAPanel) {
   ASSERT_EQ(QVN_OK, qvn_panel_show(panel.get(), 2));
   EXPECT_EQ(QVN_OK, qvn_operator_focus(panel.get(), "TxtIVA"));
   EXPECT_EQ(QVN_INVALID_ARGUMENT, qvn_panel_show(on().get(), 1));
+}
+
+TEST_F(Looking, tellsThePanelThatFailsAsItIsHidden) {
+  const Handle& panel = active("ctlPROV_POLIZZE");
+  ASSERT_EQ(QVN_OK, qvn_operator_focus(panel.get(), "TxtPN_UFF"));
+  type(on(), "1,{Home}{Delete}");
+  EXPECT_TRUE(failed(QVN_TYPE_MISMATCH, "panel: PROVV_ATTIVE: TxtPN_UFF", qvn_panel_show(panel.get(), 0)));
+  EXPECT_EQ("", focused(on()));
 }
 
 }  // namespace

@@ -233,6 +233,9 @@ TEST_F(Values, thatDoNotConvertAreRefused) {
   }
   const qvn_value noKind = ofKind(99);
   EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "99", qvn_value_convert(&noKind, QVN_TEXT, refused.place())));
+  qvn_value endless = text("x");
+  endless.as.text.length = SIZE_MAX;
+  EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "beyond all", qvn_value_convert(&endless, QVN_TEXT, refused.place())));
   EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "null", qvn_value_convert(nullptr, QVN_TEXT, refused.place())));
   EXPECT_TRUE(failed(QVN_INVALID_ARGUMENT, "null", qvn_value_convert(&word, QVN_TEXT, nullptr)));
 }
