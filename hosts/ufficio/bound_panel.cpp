@@ -3,6 +3,8 @@
 #include <compare>
 #include <string>
 
+#include "hosts/ufficio/reasons.h"
+#include "hosts/ufficio/store_failure.h"
 #include "qvn/shared/failure.h"
 
 namespace qvn::ufficio {
@@ -93,7 +95,13 @@ Row BoundPanel::toBeStored() const {
   for (std::size_t field = 0; field < fields_.size(); ++field) {
     if (!differs(field)) continue;
     const Field& its = fields_[field];
-    written.at(its.column) = stored(getByName(*panel_, its.property), its.kind);
+    try {
+      written.at(its.column) = stored(getByName(*panel_, its.property), its.kind);
+    } catch (const Failure& failure) {
+      const QString name = QString::fromUtf8(its.property).replace('_', ' ');
+      const QString reason = QString("campo «%1», %2").arg(name, reasonOf(failure.kind()));
+      throw StoreFailure(reason.toStdString(), failure.what());
+    }
   }
   return written;
 }

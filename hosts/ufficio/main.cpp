@@ -1,5 +1,6 @@
 // qvn-ufficio, the sample office.
 #include <QApplication>
+#include <QScreen>
 #include <QSettings>
 #include <QtGlobal>
 #include <algorithm>
@@ -88,6 +89,8 @@ int run(const Arguments& arguments) {
   if (arguments.dark) office.darken();
   if (first) office.chooseScreen(*first);
   if (office.screen() == nullptr) office.chooseScreen(0);
+  constexpr QSize kFrame(16, 48);  // what a window manager puts around the window, about
+  office.resize(office.size().boundedTo(office.QWidget::screen()->availableGeometry().size() - kFrame));
   office.show();
   office.chooser().focusFilter();
   return QApplication::exec();

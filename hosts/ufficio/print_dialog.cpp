@@ -8,7 +8,11 @@
 namespace qvn::ufficio {
 
 QString askFileInWindow(QWidget& parent, const QString& name) {
-  return QFileDialog::getSaveFileName(&parent, "Stampa in PDF", name, "Documenti PDF (*.pdf)");
+  QFileDialog dialog(&parent, "Stampa in PDF", QString(), "Documenti PDF (*.pdf)");
+  dialog.setAcceptMode(QFileDialog::AcceptSave);
+  dialog.setDefaultSuffix("pdf");
+  dialog.selectFile(name);
+  return dialog.exec() == QDialog::Accepted ? dialog.selectedFiles().constFirst() : QString();
 }
 
 bool printWithBar(QWidget& parent, Printing& printing, Store& store, const QString& file) {

@@ -35,7 +35,7 @@ RecordChooser::RecordChooser(QWidget* parent)
 }
 
 void RecordChooser::clearFilter() {
-  const QSignalBlocker silent(filter_);
+  const QSignalBlocker silent(this);
   filter_->clear();
 }
 
@@ -48,6 +48,7 @@ void RecordChooser::show(std::vector<Found> found, int most) {
     auto* item = new QListWidgetItem(qt::shown(record.text), records_);
     item->setToolTip(item->text());
   }
+  records_->scrollToTop();
   if (more) {
     more_->setText(QString("Sono solo i primi %1: scrivere un testo più lungo per restringere la ricerca.").arg(most));
   } else {

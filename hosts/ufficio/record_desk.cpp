@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "hosts/ufficio/result_screen.h"
+#include "hosts/ufficio/store_failure.h"
 #include "platforms/qt/texts.h"
 
 namespace qvn::ufficio {
@@ -29,6 +30,15 @@ void RecordDesk::takeResults(std::span<const Found> found) {
   shown_->results->renew();
   if (screen()->key().empty()) shown_->record.clear();
   tools_.showState();
+}
+
+QString RecordDesk::textOf(const Key& key) {
+  const std::string code = ufficio::textOf(key.front());
+  std::vector<Found> alike;
+  tools_.attempt("I record non si possono cercare",
+                 [&] { alike = screen()->find(tools_.store, code, RecordChooser::kMost); });
+  const auto found = std::ranges::find(alike, key, &Found::key);
+  return qt::shown(found == alike.end() ? code : found->text);
 }
 
 bool RecordDesk::load(const Key& key) {
@@ -84,8 +94,11 @@ bool RecordDesk::edit() {
 bool RecordDesk::save() {
   if (!editing_) return true;
   Key key;
+  bool changed = false;
   const bool saved = tools_.field.leave() && tools_.attempt("Il record non è stato salvato", [&] {
-    key = screen()->changed() ? screen()->save(tools_.store) : screen()->key();
+    changed = screen()->changed();
+    if (!changed && isNew()) throw StoreFailure("non è ancora stato scritto nulla");
+    key = changed ? screen()->save(tools_.store) : screen()->key();
   });
   if (!saved) {
     backToField();
@@ -103,13 +116,15 @@ bool RecordDesk::save() {
   if (other && std::ranges::find(chooser.records(), key, &Found::key) == chooser.records().end()) {
     chooser.clearFilter();
     find();
+    shown_->record = textOf(key);
   }
   const QString trouble = notice.text();  // with showing what was stored
   const QString words = notice.words();
+  const QString done = changed ? "Il record è stato salvato." : "Il record è com'era: non c'era nulla da salvare.";
   if (trouble.isEmpty()) {
-    notice.tell("Il record è stato salvato.");
+    notice.tell(done);
   } else {
-    notice.warn("Il record è stato salvato. " + trouble, words);
+    notice.warn(done + " " + trouble, words);
   }
   tools_.showState();
   return true;
@@ -143,6 +158,7 @@ bool RecordDesk::leave() {
         break;
     }
   }
+  tools_.notice.tell({});
   endEditing();
   // What was given up is not to stand there as if it were stored.
   if (givenUp && (isNew() || !load(screen()->key()))) forget();

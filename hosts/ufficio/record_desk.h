@@ -69,6 +69,8 @@ class RecordDesk {
 
  private:
   void takeResults(std::span<const Found> found);
+  /// What tells a record to the operator: as it is listed, or its code.
+  QString textOf(const Key& key);
   void backToField();
 
   DeskTools tools_;

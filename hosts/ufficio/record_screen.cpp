@@ -100,7 +100,8 @@ void RecordScreen::write(Store& store, const BoundPanel& panel) const {
     const Row row = panel.toBeStored();
     const Value& needed = row.at(description_.needed.column);
     const bool untouched = !row.isNew && needed == panel.row()->at(description_.needed.column);
-    if (textOf(needed).empty() || (!untouched && needed == Value(std::int64_t{0}))) {
+    if (textOf(needed).find_first_not_of(' ') == std::string::npos ||
+        (!untouched && needed == Value(std::int64_t{0}))) {
       throw StoreFailure("manca " + std::string(description_.needed.called));
     }
   }

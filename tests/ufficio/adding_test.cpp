@@ -54,6 +54,27 @@ TEST_F(OfficeAdding, StoresANewCode) {
   EXPECT_EQ(sample.everything(), before);
 }
 
+TEST_F(OfficeAdding, StoresNothingInWhichNothingIsWritten) {
+  const std::string before = sample.everything();
+  add();
+  save();
+  EXPECT_THAT(notice().toStdString(), HasSubstr("Il record non è stato salvato: non è ancora stato scritto nulla."));
+  EXPECT_TRUE(window().editing());
+  EXPECT_EQ(focused(), "TxtCodice");
+  EXPECT_EQ(sample.everything(), before);
+}
+
+TEST_F(OfficeAdding, TakesBlanksForNoCode) {
+  choose("stampe-contabili");
+  add();
+  enter(" ");
+  enter("x");
+  save();
+  EXPECT_THAT(notice().toStdString(), HasSubstr("manca il codice"));
+  EXPECT_TRUE(window().editing());
+  EXPECT_EQ(sample.rows("SELECT 1 FROM sqlite_master WHERE name = 'STAMPE_CONTABILI'").size(), 0U);
+}
+
 TEST_F(OfficeAdding, AddsARecordOnEachScreenOfCodes) {
   struct Added {
     std::string_view screen;

@@ -1,10 +1,12 @@
 // The journal print at the window: its header, its lines however many there are, and the file that it is printed to.
+#include <QFileDialog>
 #include <QLabel>
 #include <QProgressDialog>
 #include <QTimer>
 #include <filesystem>
 
 #include "hosts/ufficio/journal/journal_file.h"
+#include "hosts/ufficio/print_dialog.h"
 #include "hosts/ufficio/store_failure.h"
 #include "platforms/qt/texts.h"
 #include "tests/ufficio/at_window.h"
@@ -183,6 +185,18 @@ TEST_F(OfficeJournalPrint, TellsOfAFileThatCannotBeWritten) {
   EXPECT_EQ(notice(), QString("La stampa non è riuscita: il file %1 non si può scrivere.")
                           .arg(QString::fromStdString(sample.beside("manca/giornale.pdf"))));
   EXPECT_NE(window().findChild<QLabel*>("testo")->toolTip(), "") << "what the system said";
+}
+
+TEST_F(OfficeJournalPrint, NamesAFileWithoutAnEndingAsAPdf) {
+  QTimer::singleShot(0, [this] {
+    auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->selectedFiles().constFirst().section('/', -1), "Giornale 2031.pdf");
+    dialog->selectFile(QString::fromStdString(sample.beside("prova")));
+    static_cast<QDialog*>(dialog)->accept();
+  });
+  const QString file = ufficio::askFileInWindow(window(), QString::fromStdString(sample.beside("Giornale 2031.pdf")));
+  EXPECT_EQ(file.toStdString(), sample.beside("prova.pdf"));
 }
 
 TEST_F(OfficeJournalPrint, PrintsNothingWhereNoFileIsNamed) {

@@ -125,7 +125,8 @@ TEST_F(OfficePolicyQuotas, StoresNoDateThatIsHalfTyped) {
   go("TxtD_RIMESSA", 0);
   write("1503");
   save();
-  EXPECT_THAT(notice().toStdString(), HasSubstr("Il record non è stato salvato: un valore manca o non è valido"));
+  EXPECT_THAT(notice().toStdString(),
+              HasSubstr("Il record non è stato salvato: campo «D RIMESSA», un valore manca o non è valido."));
   EXPECT_EQ(focused(), "TxtD_RIMESSA");
   EXPECT_EQ(row("COSIR"), "COSIR|DONAT030||1|500|92/00000001|NULL");
 }

@@ -96,7 +96,8 @@ TEST_F(OfficeSaving, TellsOfAValueThatIsMissing) {
   press(Qt::Key_Delete);
   EXPECT_TRUE(window().isWindowModified());
   save();
-  EXPECT_THAT(notice().toStdString(), HasSubstr("Il record non è stato salvato: un valore manca o non è valido"));
+  EXPECT_THAT(notice().toStdString(),
+              HasSubstr("Il record non è stato salvato: campo «Codice», un valore manca o non è valido."));
   EXPECT_EQ(focused(), "TxtCodice");
   EXPECT_EQ(sample.line(kCode22), kAsItWas);
 }
@@ -105,6 +106,30 @@ TEST_F(OfficeSaving, ClosesWithoutAQuestionWhereNothingWasChanged) {
   open("22  ");
   edit();
   EXPECT_TRUE(window().close());
+}
+
+TEST_F(OfficeSaving, SaysSoWhereThereWasNothingToStore) {
+  open("22  ");
+  edit();
+  save();
+  EXPECT_EQ(notice(), "Il record è com'era: non c'era nulla da salvare.");
+  EXPECT_FALSE(window().editing());
+}
+
+TEST_F(OfficeSaving, LeavesNoMessageOfAnEditingThatIsGivenUp) {
+  open("22  ");
+  edit();
+  EXPECT_EQ(notice(), "Modifica in corso.");
+  press(Qt::Key_Escape);
+  EXPECT_EQ(notice(), "");
+  edit();
+  enter("20");
+  save();
+  ASSERT_THAT(notice().toStdString(), HasSubstr("un codice che esiste già"));
+  answer(Unsaved::Discard);
+  press(Qt::Key_Escape);
+  EXPECT_EQ(notice(), "");
+  EXPECT_EQ(field("TxtCodice").text(), "22");
 }
 
 TEST_F(OfficeSaving, AsksBeforeItClosesAndStays) {

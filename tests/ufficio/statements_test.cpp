@@ -150,5 +150,16 @@ TEST_F(OfficeStatements, FollowTheOnlyLineToItsNewClient) {
   EXPECT_EQ(screen().key(), ufficio::Key{std::string("A00008")});
 }
 
+TEST_F(OfficeStatements, AreHeadedByTheirNewClientHoweverFarDownTheListItStands) {
+  open("A00001");
+  edit();
+  go("TxtCOD_CLI", 0);
+  enter("R00021");
+  save();
+  ASSERT_EQ(screen().key(), ufficio::Key{std::string("R00021")});
+  const std::string client = sample.line("SELECT DESC_CLIENTE FROM CLIENTI WHERE COD_CLIENTE = 'R00021'");
+  EXPECT_THAT(window().windowTitle().toStdString(), testing::StartsWith("R00021  " + client));
+}
+
 }  // namespace
 }  // namespace qvn::test

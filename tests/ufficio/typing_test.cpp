@@ -35,6 +35,30 @@ TEST_F(OfficeTyping, FindsAccentedLettersInCapitalsAndInSmallOnes) {
   }
 }
 
+TEST_F(OfficeTyping, ShowsTheFirstOfWhatIsFoundWhereverTheListStood) {
+  choose("quote-polizze");
+  press(Qt::Key_F, Qt::ControlModifier);
+  press(Qt::Key_Down);
+  press(Qt::Key_End);
+  press(Qt::Key_F, Qt::ControlModifier);
+  write("a");
+  see();
+  const auto* const records = window().findChild<QListWidget*>("record");
+  ASSERT_GT(records->count(), 100);
+  EXPECT_TRUE(records->viewport()->rect().contains(records->visualItemRect(records->item(0)).center()));
+}
+
+TEST_F(OfficeTyping, EmptiesTheFilterBeforeTheEyesOfAll) {
+  press(Qt::Key_F, Qt::ControlModifier);
+  write("ordinaria");
+  auto* const filter = window().findChild<QLineEdit*>("filtro");
+  int heard = 0;
+  QObject::connect(filter, &QLineEdit::textChanged, &window(), [&] { ++heard; });
+  choose("rami");
+  EXPECT_EQ(filter->text(), "");
+  EXPECT_EQ(heard, 1) << "by which its button goes";
+}
+
 TEST_F(OfficeTyping, GoesDownFromTheFilterToTheRecords) {
   press(Qt::Key_F, Qt::ControlModifier);
   write("ordinaria");
