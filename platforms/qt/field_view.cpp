@@ -68,7 +68,7 @@ void FieldView::showContent() {
   } else {
     before_.clear();
     after_.clear();
-    if (hasSelectedText()) deselect();
+    if (hasSelectedText() || cursorPosition() != 0) setCursorPosition(0);
   }
 }
 

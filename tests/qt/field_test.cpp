@@ -101,6 +101,20 @@ TEST_F(QtField, CopiesWhatIsSelected) {
   EXPECT_EQ(box().Text(), "12345");
 }
 
+TEST_F(QtField, ShowsTheBeginningOfALongTextWhereItHasNoFocus) {
+  focus(box("B"));
+  box().Text(std::string(200, 'x'));
+  expectAgreement();
+  ASSERT_EQ(line().text().size(), 200);
+  EXPECT_EQ(line().cursorPosition(), 0);
+  focus(box());
+  select(200, 0);
+  EXPECT_EQ(line().cursorPosition(), 200);
+  focus(box("B"));
+  EXPECT_EQ(line().cursorPosition(), 0);
+  expectAgreement();
+}
+
 TEST_F(QtField, CutsAndUndoes) {
   write("12345");
   select(1, 3);
@@ -119,8 +133,8 @@ TEST_F(QtField, CutsAndUndoes) {
 }
 
 TEST_F(QtField, WritesAgainWhatWasUndone) {
-  const auto undo = [this] { press(Qt::Key_Z, "\x1a", Qt::ControlModifier); };
-  const auto redo = [this] { press(Qt::Key_Z, "\x1a", Qt::ControlModifier | Qt::ShiftModifier); };
+  const auto undo = [] { press(Qt::Key_Z, "\x1a", Qt::ControlModifier); };
+  const auto redo = [] { press(Qt::Key_Z, "\x1a", Qt::ControlModifier | Qt::ShiftModifier); };
   write("123");
   redo();
   EXPECT_EQ(box().Text(), "123");
