@@ -112,11 +112,12 @@ bool RecordDesk::save() {
   notice.tell({});
   load(key);
   find();
+  const auto listed = [&] { return std::ranges::find(chooser.records(), key, &Found::key) != chooser.records().end(); };
   // One that was new is no longer what the filter has found it by.
-  if (other && std::ranges::find(chooser.records(), key, &Found::key) == chooser.records().end()) {
+  if (other && !listed()) {
     chooser.clearFilter();
     find();
-    shown_->record = textOf(key);
+    if (!listed()) shown_->record = textOf(key);
   }
   const QString trouble = notice.text();  // with showing what was stored
   const QString words = notice.words();
